@@ -1,0 +1,12 @@
+// Rows of the table of commands.
+#pragma once
+
+#include <vector>
+
+#include "commands/comando.h"
+
+namespace trelvo {
+
+std::vector<comando> comandi_zoom();
+
+}  // namespace trelvo

@@ -1,0 +1,10 @@
+#include "document/trelvobas.h"
+
+namespace trelvo {
+
+trelvobas::trelvobas(Desktop& scrivania, const std::string& cartella) : desktop(scrivania), fileini(cartella), impost(scrivania.fonts()) {
+  if (fileini.empty() || fileini.back() != '/') fileini += '/';
+  fileini += "Trelvo.ini";
+}
+
+}  // namespace trelvo

@@ -1,0 +1,114 @@
+// The standard streams neither tell why they fail nor flush to the disk, hence the system's own calls.
+#include "files/accesso_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "files/errori_file.h"
+
+namespace trelvo {
+
+namespace {
+
+constexpr mode_t diritti_nuovo = 0666;
+
+int opzioni(fileaperto::modo come) {
+  // Without waiting for the other end of a pipe.
+  constexpr int sempre = O_CLOEXEC | O_NONBLOCK;
+  switch (come) {
+    case fileaperto::modo::lettura:
+      return sempre | O_RDONLY;
+    case fileaperto::modo::scrittura:
+      return sempre | O_WRONLY | O_CREAT;
+    case fileaperto::modo::nuovo:
+      break;
+  }
+  return sempre | O_WRONLY | O_CREAT | O_EXCL;
+}
+
+template <class Chiamata>
+auto insisti(Chiamata&& chiamata) {
+  for (;;) {
+    const auto esito = chiamata();
+    if (esito >= 0 || errno != EINTR) return esito;
+  }
+}
+
+}  // namespace
+
+fileaperto::fileaperto(const std::string& nome, modo come) {
+  verifica_nome(nome);
+  descrittore_ = insisti([&] { return ::open(nome.c_str(), opzioni(come), diritti_nuovo); });
+  if (descrittore_ < 0) throw errore_apertura(errno, nome);
+  struct stat stato {};
+  int codice = ::fstat(descrittore_, &stato) == 0 ? 0 : errno;
+  ordinario_ = S_ISREG(stato.st_mode);
+  if (codice == 0 && S_ISDIR(stato.st_mode)) codice = EISDIR;
+  if (codice == 0 && come == modo::lettura && !ordinario_) codice = EIO;
+  if (codice == 0) return;
+  ::close(std::exchange(descrittore_, -1));
+  throw errore_apertura(codice, nome);
+}
+
+fileaperto::fileaperto(fileaperto&& altro) noexcept
+    : descrittore_(std::exchange(altro.descrittore_, -1)), ordinario_(altro.ordinario_) {}
+
+fileaperto::~fileaperto() {
+  if (descrittore_ >= 0) ::close(descrittore_);
+}
+
+std::size_t fileaperto::leggi(std::span<std::byte> dove) {
+  std::size_t letti = 0;
+  while (letti < dove.size()) {
+    const auto n = insisti([&] { return ::read(descrittore_, dove.data() + letti, dove.size() - letti); });
+    if (n < 0) throw errore_trasferimento(errno);
+    if (n == 0) break;
+    letti += static_cast<std::size_t>(n);
+  }
+  return letti;
+}
+
+void fileaperto::scrivi(std::span<const std::byte> dati) {
+  while (!dati.empty()) {
+    const auto n = insisti([&] { return ::write(descrittore_, dati.data(), dati.size()); });
+    if (n < 0) throw errore_trasferimento(errno);
+    dati = dati.subspan(static_cast<std::size_t>(n));
+  }
+}
+
+void fileaperto::prendi_diritti(unsigned diritti) {
+  [[maybe_unused]] const int esito = ::fchmod(descrittore_, static_cast<mode_t>(diritti & 0777U));
+}
+
+void fileaperto::completa() {
+  if (ordinario_ && insisti([&] { return ::fsync(descrittore_); }) < 0) throw errore_trasferimento(errno);
+  chiudi();
+}
+
+void fileaperto::chiudi() {
+  if (::close(std::exchange(descrittore_, -1)) < 0 && errno != EINTR) throw errore_trasferimento(errno);
+}
+
+namespace {
+
+bool apribile(const std::string& nome, fileaperto::modo come) {
+  try {
+    const fileaperto prova(nome, come);
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool leggibile(const std::string& nome) { return apribile(nome, fileaperto::modo::lettura); }
+
+bool scrivibile(const std::string& nome) { return apribile(nome, fileaperto::modo::scrittura); }
+
+}  // namespace trelvo

@@ -1,0 +1,107 @@
+#include "files/comandi_file.h"
+
+#include <algorithm>
+
+#include "files/accesso_file.h"
+#include "files/dis_documento.h"
+
+namespace trelvo {
+
+namespace {
+
+constexpr const char* filtro_disegni =
+    "DIsegni Trelvo (*.DIS)|*.DIS|Disegni file-testo (*.TXT)|*.TXT|Tutti i file (*.*)|*.*";
+constexpr const char* inizio_senza_nome = "Disegno _";
+// Exactly so: other cases are drawing files.
+constexpr const char* estensione_testo = ".txt";
+
+CommonDialog& dialogo_pronto(trelvobas& bas) {
+  CommonDialog& dialogo = bas.frmMain.CommonDialog1;
+  dialogo.Filter = filtro_disegni;
+  dialogo.FilterIndex = 1;
+  dialogo.FileName.clear();
+  return dialogo;
+}
+
+// A name to save under, asked until it is new or may be replaced. Empty: the user gave up.
+std::string chiedi_nome(trelvobas& bas, const distipo& doc) {
+  CommonDialog& dialogo = dialogo_pronto(bas);
+  for (;;) {
+    dialogo.FileName = senza_nome(doc.Caption) ? std::string() : doc.Caption.get();
+    if (!bas.desktop.show_save(dialogo)) return {};
+    std::string nome = dialogo.FileName;
+    if (!leggibile(nome)) return nome;
+    const int risposta =
+        bas.desktop.message_box("File \"" + nome + "\"  Esiste - Sovrapporre?", Buttons::yes_no_cancel);
+    if (risposta == answer_yes) return nome;
+    if (risposta != answer_no) return {};
+  }
+}
+
+void salva_con_nome(trelvobas& bas, distipo& doc) {
+  const std::string nome = chiedi_nome(bas, doc);
+  if (!scrivibile(nome)) return;
+  doc.Caption = nome;
+  salvafile(doc);
+}
+
+bool in_uso(const trelvobas& bas, const std::string& nome) {
+  const std::size_t fine = std::min(static_cast<std::size_t>(std::max(bas.ndocumenti, 0)), bas.nomidocumenti.size());
+  for (std::size_t i = 1; i < fine; ++i) {
+    if (!nome.empty() && bas.nomidocumenti[i] == nome) return true;
+  }
+  return false;
+}
+
+// False if there is nothing to read.
+bool scegli_file(trelvobas& bas, std::string& nome) {
+  CommonDialog& dialogo = dialogo_pronto(bas);
+  if (!bas.desktop.show_open(dialogo)) return false;
+  nome = dialogo.FileName;
+  if (in_uso(bas, nome)) {
+    bas.desktop.message_box(nome + "  Attualmente in uso.", Buttons::ok);
+    return false;
+  }
+  return leggibile(nome);
+}
+
+void registra_nome(trelvobas& bas, const std::string& nome) {
+  if (bas.ndocumenti < 1) return;
+  const auto posto = static_cast<std::size_t>(bas.ndocumenti);
+  if (bas.nomidocumenti.size() <= posto) bas.nomidocumenti.resize(posto + 1);
+  bas.nomidocumenti[posto] = nome;
+}
+
+void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
+  std::string nome;
+  if (!scegli_file(bas, nome)) {
+    --bas.progrdocumento;
+    servizi.scarica(doc);
+    return;
+  }
+  registra_nome(bas, nome);
+  doc.Caption = nome;
+  if (nome.ends_with(estensione_testo)) {
+    servizi.importa(doc);
+  } else {
+    leggifile(doc);
+  }
+}
+
+}  // namespace
+
+bool senza_nome(const std::string& titolo) { return titolo.starts_with(inizio_senza_nome); }
+
+void aprisalvadisegno(trelvobas& bas, const std::string& comando, const servizifile& servizi) {
+  distipo* doc = bas.attivo();
+  if (doc == nullptr) return;
+  if (comando == "Apri") {
+    apri(bas, *doc, servizi);
+  } else if (comando == "Salva" && !senza_nome(doc->Caption)) {
+    salvafile(*doc);
+  } else if (comando == "Salva" || comando == "SalvaConNome") {
+    salva_con_nome(bas, *doc);
+  }
+}
+
+}  // namespace trelvo

@@ -1,0 +1,25 @@
+// The commands that open and save a drawing.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "document/trelvobas.h"
+
+namespace trelvo {
+
+// What the file commands need of the floor above.
+struct servizifile {
+  std::function<void(distipo&)> scarica;  // unloads a document window
+  std::function<void(distipo&)> importa;  // reads the text drawing that the caption names, with its progress window
+};
+
+// A caption that holds no file name yet.
+bool senza_nome(const std::string& titolo);
+
+// `comando` is "Apri", "Salva" or "SalvaConNome", for the document in front. "Apri" reads into that document, which is
+// new, and has it unloaded if nothing is opened. What cannot be opened or written is no error and gives no message; an
+// error in the midst of reading or writing comes through.
+void aprisalvadisegno(trelvobas& bas, const std::string& comando, const servizifile& servizi);
+
+}  // namespace trelvo

@@ -1,0 +1,139 @@
+#include "files/dis_documento.h"
+
+#include <vector>
+
+#include "commands/impostazioni.h"
+#include "commands/prompt.h"
+#include "commands/zoom.h"
+#include "document/trelvobas.h"
+#include "files/accesso_file.h"
+#include "files/dis_formato.h"
+#include "files/dis_lettura.h"
+#include "files/dis_scrittura.h"
+#include "files/sostituzione.h"
+#include "model/tavolozza.h"
+#include "view/mappa.h"
+#include "view/redraw.h"
+
+namespace trelvo {
+
+namespace {
+
+constexpr int indice_contrasto = 3;
+constexpr int indice_contrasto_di_contrasto = 15;
+constexpr int voce_step = 4;
+constexpr int voce_griglia = 5;
+
+// The count of the scratch record lives as long as the document.
+std::int16_t& nvertici_di_scarto(distipo& doc) { return doc.cmd.comandi.front().nvertici; }
+
+testatadis testata_di(const distipo& doc) {
+  testatadis t;
+  t.xminvis = doc.vista.xminvis;
+  t.yminvis = doc.vista.yminvis;
+  t.larghezzavis = doc.vista.larghezzavis;
+  t.altezzavis = doc.vista.altezzavis;
+  t.windowstate = doc.WindowState;
+  t.coloresfondo = doc.imp.coloresfondo;
+  t.colorepuntatore = doc.imp.colorepuntatore;
+  t.statostep = doc.imp.statostep;
+  t.passostep = doc.imp.passostep;
+  t.statogriglia = doc.imp.statogriglia;
+  t.passogriglia = doc.imp.passogriglia;
+  return t;
+}
+
+void prendi_vista(distipo& doc, const testatadis& t) {
+  if (t.windowstate >= window_normal && t.windowstate <= window_maximised) doc.WindowState = t.windowstate;
+  if (!(t.larghezzavis > 0 && t.altezzavis > 0)) return;
+  const statovista prima = doc.vista;
+  doc.vista.xminvis = t.xminvis;
+  doc.vista.yminvis = t.yminvis;
+  doc.vista.larghezzavis = t.larghezzavis;
+  doc.vista.altezzavis = t.altezzavis;
+  try {
+    selzoom(doc, t.xminvis, t.yminvis, t.xminvis + t.larghezzavis, t.yminvis + t.altezzavis);
+  } catch (const RuntimeError&) {
+    doc.vista = prima;
+  }
+}
+
+// Leaves the item as the file has the aid, by way of the switch, which sets all that hangs on it.
+void commuta_aiuto(distipo& doc, int voce, bool attivo, errorerimandato& errore) {
+  doc.aiutdis(voce).Checked = !attivo;
+  errore.prova([&] { impaiut(doc, voce); });
+}
+
+void prendi_impostazioni(distipo& doc, const testatadis& t, errorerimandato& errore) {
+  impostazioni& imp = doc.imp;
+  imp.coloresfondo = t.coloresfondo;
+  imp.colorecontrasto =
+      indicecolore{t.coloresfondo.valore == indice_contrasto ? indice_contrasto_di_contrasto : indice_contrasto};
+  imp.colorepuntatore = t.colorepuntatore;
+  imp.statostep = t.statostep;
+  imp.passostep = t.passostep;
+  imp.statogriglia = t.statogriglia;
+  imp.passogriglia = t.passogriglia;
+  commuta_aiuto(doc, voce_step, t.statostep == acceso, errore);
+  commuta_aiuto(doc, voce_griglia, t.statogriglia == acceso, errore);
+}
+
+void leggi_testata(distipo& doc, fileaperto& file, errorerimandato& errore) {
+  testatadis testata = testata_di(doc);
+  std::vector<std::byte> byte(lunghezza_testata);
+  errore.prova([&] {
+    byte.resize(file.leggi(byte));
+    decodifica(byte, testata, errore);
+  });
+  prendi_vista(doc, testata);
+  prendi_impostazioni(doc, testata, errore);
+}
+
+void leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
+  doc.cmd.statooggetti = 0;
+  doc.cmd.statotesti = 0;
+  letturadis esito;
+  esito.nvertici = nvertici_di_scarto(doc);
+  errore.prova([&] { leggi_oggetti([&](std::span<std::byte> dove) { return file.leggi(dove); }, doc.dis, esito); });
+  nvertici_di_scarto(doc) = esito.nvertici;
+  if (esito.riconosciuti) doc.cmd.statooggetti = 1;
+}
+
+}  // namespace
+
+void salvafile(distipo& doc) {
+  memxin(doc);
+  const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
+  sostituzione nuovo(doc.Caption);
+  try {
+    scrivi_disegno(testata_di(doc), doc.dis, nvertici_di_scarto(doc),
+                   [&](std::span<const std::byte> dati) { nuovo.scrivi(dati); });
+    nuovo.concludi();
+  } catch (const RuntimeError& errore) {
+    throw nuovo.annotato(errore.number());
+  } catch (const std::bad_alloc&) {
+    throw nuovo.annotato(error_no_memory);
+  }
+}
+
+void leggifile(distipo& doc) {
+  const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
+  errorerimandato errore;
+  {
+    fileaperto file(doc.Caption, fileaperto::modo::lettura);
+    leggi_testata(doc, file, errore);
+    // The zoom put the pointer back.
+    doc.bas.desktop.MousePointer = pointer_hourglass;
+    leggi_disegno(doc, file, errore);
+  }
+  doc.surface.BackColor = tavolozza(doc.imp.coloresfondo.valore);
+  errore.prova([&] { redraw(doc); });
+  errore.prova([&] {
+    ++doc.cmd.livello;
+    reiniz(doc, doc.cmd.livello);
+    scrivilabel1(doc);
+  });
+  errore.rilancia();
+}
+
+}  // namespace trelvo

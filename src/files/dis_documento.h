@@ -1,0 +1,20 @@
+// The drawing file of a document. Its name is the window's caption.
+#pragma once
+
+#include "document/distipo.h"
+
+namespace trelvo {
+
+// Writes view, settings and all objects that are not deleted, in place of any file of that name. The former file stays
+// under its name followed by "~" until the new one is complete on the disk; a failed write leaves it there and says so
+// in its error. Errors 7, 52, 57, 61, 70, 75, 76.
+void salvafile(distipo& doc);
+
+// Reads a drawing into a new, empty document. A file that cannot be opened raises error 53, 57, 70, 75 or 76 and
+// changes nothing. Whatever else is wrong with it, the document takes all that can be read, is painted and idle; then
+// the first fault is raised: 6 for a number that is not finite, 9 for a colour off the palette, 13 for a header value
+// of another type, 57 for a failed read, or the error of writing the settings. A view without extent, a window state
+// that is none, and a file that ends early are no faults.
+void leggifile(distipo& doc);
+
+}  // namespace trelvo

@@ -1,0 +1,86 @@
+#include "files/sostituzione.h"
+
+#include <filesystem>
+
+#include "files/errori_file.h"
+
+namespace trelvo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A link stays a link: the file that it leads to is the one replaced.
+std::string file_vero(const std::string& nome) {
+  verifica_nome(nome);
+  std::error_code errore;
+  if (!fs::is_symlink(nome, errore)) return nome;
+  const fs::path vero = fs::canonical(nome, errore);
+  return errore ? nome : vero.string();
+}
+
+std::string nome_libero(std::string nome) {
+  std::error_code ignorato;
+  do {
+    nome += '~';
+  } while (fs::exists(fs::symlink_status(nome, ignorato)));
+  return nome;
+}
+
+}  // namespace
+
+sostituzione::sostituzione(const std::string& nome) : nome_(file_vero(nome)) {
+  std::error_code ignorato;
+  const fs::file_status stato = fs::status(nome_, ignorato);
+  if (fs::is_regular_file(stato)) {
+    diritti_ = static_cast<unsigned>(stato.permissions());
+    metti_da_parte();
+  } else {
+    ordinario_ = !fs::exists(stato);
+  }
+  apri();
+}
+
+void sostituzione::metti_da_parte() {
+  std::error_code errore;
+  if (fs::file_size(nome_, errore) == 0) {
+    fs::remove(nome_, errore);
+  } else {
+    const std::string libero = nome_libero(nome_);
+    fs::rename(nome_, libero, errore);
+    if (!errore) conservato_ = libero;
+  }
+  if (errore) throw errore_apertura(errore.value(), nome_);
+}
+
+void sostituzione::apri() {
+  try {
+    file_.emplace(nome_, ordinario_ ? fileaperto::modo::nuovo : fileaperto::modo::scrittura);
+  } catch (...) {
+    std::error_code ignorato;
+    if (!conservato_.empty()) fs::rename(conservato_, nome_, ignorato);
+    throw;
+  }
+  if (diritti_ != 0) file_->prendi_diritti(diritti_);
+}
+
+sostituzione::~sostituzione() {
+  if (concluso_ || !ordinario_) return;
+  file_.reset();
+  std::error_code ignorato;
+  fs::remove(nome_, ignorato);
+}
+
+void sostituzione::concludi() {
+  file_->completa();
+  concluso_ = true;
+  std::error_code ignorato;
+  if (!conservato_.empty()) fs::remove(conservato_, ignorato);
+}
+
+RuntimeError sostituzione::annotato(int errore) const {
+  if (conservato_.empty()) return RuntimeError(errore);
+  return RuntimeError(errore, "il disegno precedente è in \"" + conservato_ + "\"");
+}
+
+}  // namespace trelvo

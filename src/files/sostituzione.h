@@ -1,0 +1,41 @@
+// A file that takes the place of another one of its name. The old one is moved away first, and goes for good only when
+// the new one is complete on the disk.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "files/accesso_file.h"
+#include "platform/runtime_error.h"
+
+namespace trelvo {
+
+class sostituzione {
+ public:
+  // What stands at `nome` is kept under that name followed by "~", or by more of them if such a file is there.
+  // If this fails nothing has changed. A device is written as it is.
+  explicit sostituzione(const std::string& nome);
+  sostituzione(const sostituzione&) = delete;
+  sostituzione& operator=(const sostituzione&) = delete;
+  // Without `concludi` the part that was written goes, and the old file stays where it is kept.
+  ~sostituzione();
+
+  void scrivi(std::span<const std::byte> dati) { file_->scrivi(dati); }
+  void concludi();
+
+  // The same error, telling where the old file is kept.
+  RuntimeError annotato(int errore) const;
+
+ private:
+  void metti_da_parte();
+  void apri();
+
+  std::string nome_;
+  std::string conservato_;  // empty: there was nothing to keep
+  unsigned diritti_ = 0;
+  bool ordinario_ = true;
+  bool concluso_ = false;
+  std::optional<fileaperto> file_;
+};
+
+}  // namespace trelvo

@@ -1,0 +1,101 @@
+#include "geometry/cerchi.h"
+
+#include <cmath>
+
+#include "geometry/rette.h"
+#include "platform/runtime_error.h"
+
+namespace trelvo {
+
+namespace {
+
+double radice(double valore) {
+  if (valore < 0) throw RuntimeError(error_bad_call);
+  return std::sqrt(valore);
+}
+
+}  // namespace
+
+void risolvi2grado(double a, double b, double c, double& discriminante, double& x1, double& x2) {
+  discriminante = b * b - 4 * a * c;
+  if (!(discriminante >= 0)) return;
+  const double radice_d = std::sqrt(discriminante);
+  x1 = ((-b + radice_d) / 2) / a;
+  x2 = discriminante > 0 ? ((-b - radice_d) / 2) / a : x1;
+}
+
+void detinters_cerchio_segmento(double Xc, double Yc, double R, double x1, double y1, double x2, double y2, double& IX1,
+                                double& IY1, double& IX2, double& IY2, std::int16_t& flag1, std::int16_t& flag2) {
+  flag1 = 0;
+  flag2 = 0;
+  double d = 0;
+  if (x1 == x2) {
+    risolvi2grado(1, -2 * Yc, (x1 - Xc) * (x1 - Xc) + Yc * Yc - R * R, d, IY1, IY2);
+    IX1 = x1;
+    IX2 = x1;
+  }
+  if (y1 == y2) {
+    risolvi2grado(1, -2 * Xc, (y1 - Yc) * (y1 - Yc) + Xc * Xc - R * R, d, IX1, IX2);
+    IY1 = y1;
+    IY2 = y1;
+  }
+  if (x1 != x2 && y1 != y2) {
+    const double m = (y2 - y1) / (x2 - x1);
+    const double m2 = m * m;
+    const double b = -2 * Xc + 2 * y1 * m - 2 * x1 * m2 - 2 * Yc * m;
+    const double c =
+        Xc * Xc + Yc * Yc + y1 * y1 + m2 * (x1 * x1) - 2 * y1 * m * x1 - 2 * Yc * y1 + 2 * Yc * m * x1 - R * R;
+    risolvi2grado(1 + m2, b, c, d, IX1, IX2);
+    IY1 = y1 + m * IX1 - m * x1;
+    IY2 = y1 + m * IX2 - m * x1;
+  }
+  if (d >= 0) {
+    if (detPinsegmento(IX1, IY1, x1, y1, x2, y2)) flag1 = 1;
+    if (detPinsegmento(IX2, IY2, x1, y1, x2, y2)) flag2 = 1;
+  }
+}
+
+bool cerchi_secanti(double Xa, double Ya, double Ra, double Xb, double Yb, double Rb, double& IX1, double& IX2) {
+  if ((Xa - Xb) * (Xa - Xb) + (Ya - Yb) * (Ya - Yb) <= Rb * Rb && Ra < Rb) return false;
+  const double A = 2 * (Xb - Xa);
+  const double B = 2 * (Yb - Ya);
+  const double C = Xa * Xa - Xb * Xb + Ya * Ya - Yb * Yb + Rb * Rb - Ra * Ra;
+  double d = 0;
+  if (B != 0) {
+    const double p = -C / B;
+    const double q = -A / B;
+    risolvi2grado(1 + q * q, 2 * p * q - 2 * Xa - 2 * Ya * q, Xa * Xa + p * p + Ya * Ya - 2 * Ya * p - Ra * Ra, d, IX1,
+                  IX2);
+  } else if (A != 0) {
+    const double p = -C / A;
+    const double q = -B / A;
+    risolvi2grado(1 + q * q, 2 * p * q - 2 * Ya - 2 * Xa * q, Xa * Xa + p * p + Ya * Ya - 2 * Xa * p - Ra * Ra, d, IX1,
+                  IX2);
+  }
+  return d >= 0;
+}
+
+void detinters_cerchio_cerchio(double Xa, double Ya, double Ra, double Xb, double Yb, double Rb, std::int16_t& flag,
+                               double& IX1, double& IY1, double& IX2, double& IY2) {
+  flag = cerchi_secanti(Xa, Ya, Ra, Xb, Yb, Rb, IX1, IX2) ? 1 : 0;
+  if (flag == 0) return;
+  IY1 = Yb + radice(Rb * Rb - (IX1 - Xb) * (IX1 - Xb));
+  IY2 = Yb + radice(Rb * Rb - (IX2 - Xb) * (IX2 - Xb));
+}
+
+void cerchio_per_tre_punti(double p1x, double p1y, double p2x, double p2y, double p3x, double p3y, double& Xc,
+                           double& Yc, double& R) {
+  const double S1 = -(p1x * p1x + p1y * p1y);
+  const double S2 = -(p2x * p2x + p2y * p2y);
+  const double S3 = -(p3x * p3x + p3y * p3y);
+  const double D = (p2y - p3y) * p1x - (p2x - p3x) * p1y + (p2x * p3y - p3x * p2y);
+  if (D == 0) return;
+  const double Dx = (p2y - p3y) * S1 - (S2 - S3) * p1y + (S2 * p3y - S3 * p2y);
+  const double Dy = (S2 - S3) * p1x - (p2x - p3x) * S1 + (S3 * p2x - S2 * p3x);
+  const double Dz = (S3 * p2y - S2 * p3y) * p1x - (S3 * p2x - S2 * p3x) * p1y + (p2x * p3y - p3x * p2y) * S1;
+  Xc = -(Dx / D) / 2;
+  Yc = -(Dy / D) / 2;
+  R = std::sqrt((Dy / D) * (Dy / D) / 4 + (Dx / D) * (Dx / D) / 4 - Dz / D);
+}
+
+}  // namespace trelvo

@@ -1,0 +1,65 @@
+// A drawing: seven ordered collections, one a class. An object is known by its position, counted from 1.
+#pragma once
+
+#include <type_traits>
+
+#include "model/collezione.h"
+#include "model/oggetti.h"
+
+namespace trelvo {
+
+struct disegno {
+  collezione<superficie> collSuperfici;
+  collezione<Rettangolo> collRettangoli;
+  collezione<Linea> collLinee;
+  collezione<polilinea> collPolilinee;
+  collezione<testo> collTesti;
+  collezione<Arco> collArchi;
+  collezione<Cerchio> collCerchi;
+};
+
+template <class Classe>
+auto& collezione_di(disegno& dis) {
+  if constexpr (std::is_same_v<Classe, superficie>) {
+    return dis.collSuperfici;
+  } else if constexpr (std::is_same_v<Classe, Rettangolo>) {
+    return dis.collRettangoli;
+  } else if constexpr (std::is_same_v<Classe, Linea>) {
+    return dis.collLinee;
+  } else if constexpr (std::is_same_v<Classe, polilinea>) {
+    return dis.collPolilinee;
+  } else if constexpr (std::is_same_v<Classe, testo>) {
+    return dis.collTesti;
+  } else if constexpr (std::is_same_v<Classe, Arco>) {
+    return dis.collArchi;
+  } else {
+    static_assert(std::is_same_v<Classe, Cerchio>);
+    return dis.collCerchi;
+  }
+}
+
+template <class Classe>
+const auto& collezione_di(const disegno& dis) {
+  return collezione_di<Classe>(const_cast<disegno&>(dis));
+}
+
+// Visits every object of the named classes, class by class in the order named: each walk says its own order.
+template <class... Classi, class Visita>
+void visita(disegno& dis, Visita&& azione) {
+  (
+      [&] {
+        for (auto& oggetto : collezione_di<Classi>(dis)) azione(oggetto);
+      }(),
+      ...);
+}
+
+template <class... Classi, class Visita>
+void visita(const disegno& dis, Visita&& azione) {
+  (
+      [&] {
+        for (const auto& oggetto : collezione_di<Classi>(dis)) azione(oggetto);
+      }(),
+      ...);
+}
+
+}  // namespace trelvo

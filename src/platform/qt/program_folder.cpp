@@ -1,0 +1,47 @@
+#include "platform/qt/program_folder.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace trelvo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool can_hold_settings(const fs::path& folder) {
+  const fs::path settings = folder / "Trelvo.ini";
+  return access((fs::exists(settings) ? settings : folder).c_str(), W_OK) == 0;
+}
+
+std::string variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+}  // namespace
+
+std::string choose_folder(const std::string& wished, const std::string& executable, const std::string& config_home,
+                          const std::string& home) {
+  fs::path folder;
+  if (!wished.empty()) {
+    folder = fs::absolute(wished);
+  } else if (can_hold_settings(executable)) {
+    return executable;
+  } else {
+    // A relative configuration folder counts as none.
+    const bool configured = !config_home.empty() && fs::path(config_home).is_absolute();
+    folder = (configured ? fs::path(config_home) : fs::path(home) / ".config") / "trelvo";
+  }
+  fs::create_directories(folder);
+  return folder.string();
+}
+
+std::string program_folder(const std::string& wished) {
+  const fs::path executable = fs::canonical("/proc/self/exe").parent_path();
+  return choose_folder(wished, executable.string(), variable("XDG_CONFIG_HOME"), variable("HOME"));
+}
+
+}  // namespace trelvo

@@ -1,0 +1,43 @@
+#include "script/script.h"
+
+#include <fstream>
+#include <iostream>
+
+#include "app/app.h"
+#include "script/failure.h"
+#include "script/runner.h"
+
+namespace trelvo {
+
+int esegui_script(std::istream& righe, std::ostream& uscita, std::ostream& errori, const std::string& cartella,
+                  FontService& caratteri) {
+  Output output(uscita);
+  DesktopScript desktop(output, caratteri);
+  trelvobas bas(desktop, cartella);
+  Session session{bas, desktop, output};
+  Runner runner(session);
+  desktop.use_dialog = [&](const Form& form) { runner.use_dialog(form); };
+  desktop.document_made = [&](distipo& doc) { watch_document(session, doc); };
+
+  prepara(bas);
+  try {
+    runner.run(righe);
+  } catch (const ScriptFailure& failure) {
+    output.flush();
+    errori << failure.what() << '\n';
+    return 1;
+  }
+  return 0;
+}
+
+int esegui_script(const std::string& percorso, const std::string& cartella, FontService& caratteri) {
+  if (percorso == "-") return esegui_script(std::cin, std::cout, std::cerr, cartella, caratteri);
+  std::ifstream file(percorso, std::ios::binary);
+  if (!file) {
+    std::cerr << "cannot open " << percorso << '\n';
+    return 2;
+  }
+  return esegui_script(file, std::cout, std::cerr, cartella, caratteri);
+}
+
+}  // namespace trelvo
