@@ -2,9 +2,9 @@
 //
 // Each routine applies the command of the record at level n to every selected object of its class, in collection order,
 // sets `contatore` to 1 if there was one, and leaves none selected. The points are in drawing units; "Ruota" has its
-// angle in x2, in degrees. Copies and mirror images go to the end of the collection, and the source stays; they take the
-// look of the source and its shape, but neither Layer nor stampare, and no stretch mark. Nothing is painted.
-// Error 6 for points too far apart or an angle too large: no object has changed then.
+// angle in x2, in degrees. Copies and mirror images go to the end of the collection, and the source stays; they take
+// the look of the source and its shape, but neither Layer nor stampare, and no stretch mark. Nothing is painted. Error
+// 6 for points too far apart or an angle too large: no object has changed then.
 #pragma once
 
 #include "document/trelvobas.h"

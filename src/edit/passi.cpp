@@ -42,7 +42,8 @@ double punti_comando::radianti() const { return finito(x2 * pigreco / 180); }
 riflessione::riflessione(const punti_comando& p) : asse(p.x1, p.y1, p.x1 + p.dx(), p.y1 + p.dy()) {}
 
 void ruota(testo& o, const rotazione& r) {
-  const double d = std::sqrt((o.pos_testox - r.xc) * (o.pos_testox - r.xc) + (o.pos_testoy - r.yc) * (o.pos_testoy - r.yc));
+  const double d =
+      std::sqrt((o.pos_testox - r.xc) * (o.pos_testox - r.xc) + (o.pos_testoy - r.yc) * (o.pos_testoy - r.yc));
   trasforma(o, r);
   // Half a command would be worse than an angle held at the end of its type.
   o.ang_testo(round_clamped(o.ang_testo() + variazione_ang_testo_ruotato(d, r.radianti)));

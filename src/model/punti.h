@@ -7,7 +7,9 @@
 namespace trelvo {
 
 template <class Oggetto>
-concept a_vertici = requires(Oggetto& o) { o.vertici.tutti(); };
+concept a_vertici = requires(Oggetto& o) {
+  o.vertici.tutti();
+};
 
 template <class Azione>
 void per_ogni_punto(Linea& o, Azione&& azione) {

@@ -19,7 +19,17 @@ double units_per_inch(int mode, double dots) {
   return twips_per_inch;
 }
 
+// Texts of the trace. Apart from the operations, which are to be quick while nothing is traced.
 std::string place(double x, double y) { return shortest_text(x) + "," + shortest_text(y); }
+
+[[gnu::noinline]] void trace_line(const Surface& surface, double x1, double y1, double x2, double y2, Color color) {
+  surface.trace("Line " + place(x1, y1) + ' ' + place(x2, y2) + " color=" + std::to_string(color) +
+                " DrawWidth=" + std::to_string(surface.DrawWidth) + " DrawStyle=" + std::to_string(surface.DrawStyle));
+}
+
+[[gnu::noinline]] void trace_pset(const Surface& surface, double x, double y, Color color) {
+  surface.trace("PSet " + place(x, y) + " color=" + std::to_string(color));
+}
 
 }  // namespace
 
@@ -54,15 +64,12 @@ void Surface::Cls() {
 }
 
 void Surface::Line(double x1, double y1, double x2, double y2, Color color) {
-  if (trace) {
-    trace("Line " + place(x1, y1) + " " + place(x2, y2) + " color=" + std::to_string(color) +
-          " DrawWidth=" + std::to_string(DrawWidth) + " DrawStyle=" + std::to_string(DrawStyle));
-  }
+  if (trace) trace_line(*this, x1, y1, x2, y2, color);
   paint_line(x1, y1, x2, y2, color);
 }
 
 void Surface::PSet(double x, double y, Color color) {
-  if (trace) trace("PSet " + place(x, y) + " color=" + std::to_string(color));
+  if (trace) trace_pset(*this, x, y, color);
   paint_pset(x, y, color);
 }
 

@@ -76,8 +76,8 @@ bool cerca_tratto(distipo& doc, const mira& m) {
 
 // ---- arcs and circles
 
-// Where the line through the centre and the middle of the chord meets the arc. An arc that refuses both points keeps the
-// point from before.
+// Where the line through the centre and the middle of the chord meets the arc. An arc that refuses both points keeps
+// the point from before.
 void aggancia_medio(statofiltro& filtro, const Arco& o, double xc, double yc, double raggio) {
   double x1 = 0;
   double y1 = 0;

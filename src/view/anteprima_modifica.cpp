@@ -7,19 +7,19 @@
 #include "geometry/cerchi.h"
 #include "geometry/pigreco.h"
 #include "geometry/trasformazioni.h"
+#include "model/punti.h"
 #include "platform/numbers.h"
 #include "view/pittura.h"
-#include "view/punti.h"
 
 namespace trelvo {
 
 namespace {
 
-// Paints a transformed copy of every selected object; a copy is made over the former one, which spares its memory.
+// One copy serves a whole class, so that its vertex list is allocated once.
 template <class Classe, class Trasforma>
-void dipingi_classe(distipo& doc, Trasforma& trasforma) {
+void dipingi_classe(distipo& doc, const Trasforma& trasforma) {
   Classe copia;
-  for (const Classe& o : collezione_di<Classe>(std::as_const(doc.dis))) {
+  for (const Classe& o : std::as_const(collezione_di<Classe>(doc.dis))) {
     if (o.stato != stato_selezionato) continue;
     copia = o;
     trasforma(copia);
@@ -28,7 +28,7 @@ void dipingi_classe(distipo& doc, Trasforma& trasforma) {
 }
 
 template <class Trasforma>
-void dipingi(distipo& doc, Trasforma trasforma) {
+void dipingi(distipo& doc, const Trasforma& trasforma) {
   doc.surface.Cls();
   dipingi_classe<superficie>(doc, trasforma);
   dipingi_classe<Linea>(doc, trasforma);
@@ -39,78 +39,64 @@ void dipingi(distipo& doc, Trasforma trasforma) {
   dipingi_classe<polilinea>(doc, trasforma);
 }
 
-struct stiramento {
-  double DX;
-  double DY;
+template <class Trasforma>
+void dipingi_per_punti(distipo& doc, const Trasforma& trasforma) {
+  dipingi(doc, [&](auto& o) { per_ogni_punto(o, trasforma); });
+}
 
-  void sposta(double& x, double& y) const {
-    x += DX;
-    y += DY;
-  }
-  void vertici(elencovertici& elenco) const {
-    const auto punti = elenco.tutti();
-    for (std::size_t i = 0; i < punti.size(); ++i) {
-      if (elenco.selezionato(static_cast<int>(i) + 1) == 1) sposta(punti[i].x, punti[i].y);
-    }
-  }
-  void operator()(superficie& o) const { vertici(o.vertici); }
-  void operator()(Rettangolo& o) const { vertici(o.vertici); }
-  void operator()(polilinea& o) const { vertici(o.vertici); }
-  void operator()(Linea& o) const {
-    if (o.vert1_selez == 1) sposta(o.Xi, o.Yi);
-    if (o.vert2_selez == 1) sposta(o.Xf, o.Yf);
-  }
-  void operator()(Arco& o) const {
-    if (o.vert1_selez == 1) sposta(o.p1x, o.p1y);
-    if (o.vert2_selez == 1) sposta(o.p2x, o.p2y);
-    if (o.vert1_selez == 1 && o.vert2_selez == 1) sposta(o.p3x, o.p3y);
-    double Xc = 0;
-    double Yc = 0;
-    double R = 0;
-    cerchio_per_tre_punti(o.p1x, o.p1y, o.p2x, o.p2y, o.p3x, o.p3y, Xc, Yc, R);
-    if (detPinArco(o.p3x, o.p3y, Xc, Yc, o.p1x, o.p1y, o.p2x, o.p2y)) return;
-    std::swap(o.p1x, o.p2x);
-    std::swap(o.p1y, o.p2y);
-  }
-  // Texts and circles move whole.
-  void operator()(testo& o) const { sposta(o.pos_testox, o.pos_testoy); }
-  void operator()(Cerchio& o) const {
-    sposta(o.Xcentro, o.Ycentro);
-    sposta(o.Xpunto, o.YPunto);
+struct traslazione {
+  double dx;
+  double dy;
+  void operator()(double& x, double& y) const {
+    x += dx;
+    y += dy;
   }
 };
 
-void anteprima_ruota(distipo& doc, const banda& b) {
-  const double angolo = detAngolo(b.ax, b.ay, b.bx, b.by);
-  doc.bas.frmMain.Text2.Text = number_text(angolo * 180 / pigreco);
-  const double gradi_testo = variazione_ang_testo(b.DX, b.DY);
-  dipingi(doc, [&](auto& o) {
-    per_ogni_punto(o, [&](double& x, double& y) { ruota_punto(b.ax, b.ay, angolo, x, y); });
-    if constexpr (requires { o.dimens_testo; }) o.ang_testo(round_to_int32(o.angolo() + gradi_testo));
-  });
+void stira(Linea& o, const traslazione& t) { per_ogni_punto_marcato(o, t); }
+void stira(superficie& o, const traslazione& t) { per_ogni_punto_marcato(o, t); }
+void stira(Rettangolo& o, const traslazione& t) { per_ogni_punto_marcato(o, t); }
+void stira(polilinea& o, const traslazione& t) { per_ogni_punto_marcato(o, t); }
+void stira(testo& o, const traslazione& t) { per_ogni_punto(o, t); }
+void stira(Cerchio& o, const traslazione& t) { per_ogni_punto(o, t); }
+
+// The third point goes along only if both ends do; the ends change places where it has left their run.
+void stira(Arco& o, const traslazione& t) {
+  if (o.vert1_selez == 1) t(o.p1x, o.p1y);
+  if (o.vert2_selez == 1) t(o.p2x, o.p2y);
+  if (o.vert1_selez == 1 && o.vert2_selez == 1) t(o.p3x, o.p3y);
+  double xc = 0;
+  double yc = 0;
+  double raggio = 0;
+  cerchio_per_tre_punti(o.p1x, o.p1y, o.p2x, o.p2y, o.p3x, o.p3y, xc, yc, raggio);
+  if (detPinArco(o.p3x, o.p3y, xc, yc, o.p1x, o.p1y, o.p2x, o.p2y)) return;
+  std::swap(o.p1x, o.p2x);
+  std::swap(o.p1y, o.p2y);
 }
 
-void anteprima_specchio(distipo& doc, const banda& b) {
-  const specchio asse(b.ax, b.ay, b.bx, b.by);
-  dipingi(doc, [&](auto& o) { per_ogni_punto(o, [&](double& x, double& y) { asse.rifletti(x, y); }); });
+void ruota(distipo& doc, const banda& b) {
+  const double theta = detAngolo(b.ax, b.ay, b.bx, b.by);
+  doc.bas.frmMain.Text2.Text = number_text(theta * 180 / pigreco);
+  const double gradi_testo = variazione_ang_testo(b.DX, b.DY);
+  dipingi(doc, [&](auto& o) {
+    per_ogni_punto(o, [&](double& x, double& y) { ruota_punto(b.ax, b.ay, theta, x, y); });
+    if constexpr (requires { o.ang_testo(); }) o.ang_testo(round_clamped(o.ang_testo() + gradi_testo));
+  });
 }
 
 }  // namespace
 
 void anteprima_modifica(distipo& doc, const std::string& comando, const banda& b) {
-  if (comando == "Ruota") {
-    anteprima_ruota(doc, b);
-  } else if (comando == "Specchio") {
-    anteprima_specchio(doc, b);
+  if (comando == "Sposta" || comando == "Copia") {
+    dipingi_per_punti(doc, traslazione{b.DX, b.DY});
   } else if (comando == "Stira") {
-    dipingi(doc, stiramento{b.DX, b.DY});
-  } else {
-    dipingi(doc, [&](auto& o) {
-      per_ogni_punto(o, [&](double& x, double& y) {
-        x += b.DX;
-        y += b.DY;
-      });
-    });
+    dipingi(doc, [&](auto& o) { stira(o, traslazione{b.DX, b.DY}); });
+  } else if (comando == "Ruota") {
+    ruota(doc, b);
+  } else if (comando == "Specchio") {
+    // Texts keep their angle.
+    const specchio asse(b.ax, b.ay, b.bx, b.by);
+    dipingi_per_punti(doc, [&](double& x, double& y) { asse.rifletti(x, y); });
   }
 }
 

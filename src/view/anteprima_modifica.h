@@ -1,15 +1,15 @@
-// The selected objects as an edit command would leave them, painted at the pointer's moves.
+// The preview of an edit command at its last step.
 #pragma once
 
 #include <string>
 
-#include "document/distipo.h"
 #include "view/banda.h"
 
 namespace trelvo {
 
-// Clears the surface (its transient layer, at this step) and paints the transformed objects in their own colours. The
-// objects themselves are not touched. `comando` is "Sposta", "Copia", "Stira", "Ruota" or "Specchio".
+// Paints the selected objects in their own colours where "Sposta", "Copia", "Stira", "Ruota" or "Specchio" would put
+// them, in place of the last such painting; other names do nothing. The objects stay as they are. "Ruota" writes its
+// angle to the frame's Text2. The surface must not be drawing on its kept picture.
 void anteprima_modifica(distipo& doc, const std::string& comando, const banda& b);
 
 }  // namespace trelvo

@@ -16,18 +16,32 @@ struct Ran {
   std::string errors;
 };
 
-Ran ran(const std::string& script) {
-  const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "trelvo_script_test";
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
-  std::istringstream lines(script);
-  std::ostringstream output;
-  std::ostringstream errors;
-  NoFonts fonts;
-  const int status = esegui_script(lines, output, errors, folder.string(), fonts);
-  std::filesystem::remove_all(folder);
-  return {status, output.str(), errors.str()};
-}
+// A program's folder of its own, gone at the end.
+class Folder {
+ public:
+  Folder() : path_(std::filesystem::path(testing::TempDir()) / "trelvo_script_test") {
+    std::filesystem::remove_all(path_);
+    std::filesystem::create_directories(path_);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  ~Folder() { std::filesystem::remove_all(path_); }
+  std::string file(const char* name) const { return (path_ / name).string(); }
+
+  Ran ran(const std::string& script) const {
+    std::istringstream lines(script);
+    std::ostringstream output;
+    std::ostringstream errors;
+    NoFonts fonts;
+    const int status = esegui_script(lines, output, errors, path_.string(), fonts);
+    return {status, output.str(), errors.str()};
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+Ran ran(const std::string& script) { return Folder().ran(script); }
 
 const std::string one = "menu gestfile 1\n";
 const std::string shown_one = "show distipo 1\n";
@@ -180,6 +194,31 @@ TEST(Script, DialogBlocks) {
   EXPECT_EQ(failing.status, 1);
   EXPECT_EQ(failing.output, shown_one + "show zoomp\na\n");
   EXPECT_EQ(failing.errors, "line 8: unknown command \"walk\"\n");
+}
+
+TEST(Script, StartOpensAFile) {
+  const Folder folder;
+  const std::string path = folder.file("a b.DIS");
+  const Ran saved =
+      folder.ran(one + "menu opdis 1\nleft 1 1\nleft 2 3\nkey 27\nfile \"" + path + "\"\nmenu opfile 4\nobjects");
+  ASSERT_EQ(saved.errors, "");
+  const std::string objects = saved.output.substr(saved.output.find("Linea 1"));
+  const std::string look = "\nstate ndocumenti\nget distipo.Caption\nobjects\n";
+  const std::string found = shown_one + "ndocumenti = 1\ndistipo.Caption = \"" + path + "\"\n" + objects;
+  EXPECT_EQ(folder.ran("start \"" + path + "\"" + look).output, found);
+  EXPECT_EQ(folder.ran("# comment\n\nstart \"\\\"" + path + "\\\"\"" + look).output, found) << "in quotation marks";
+  EXPECT_EQ(folder.ran("start \"" + folder.file("b.DIS") + "\"\nstate ndocumenti").output, "ndocumenti = 0\n");
+}
+
+TEST(Script, PicturesOfTheKeptPicture) {
+  const Folder folder;
+  const std::string bmp = folder.file("a.bmp");
+  const std::string png = folder.file("a.PNG");
+  const Ran r = folder.ran(one + "size 1500 750\nmove 1 1\npicture \"" + bmp + "\"\npicture \"" + png +
+                           "\"\npicture \"" + folder.file("no/a.bmp") + "\"\n");
+  EXPECT_EQ(r.errors, "line 6: cannot write \"" + folder.file("no/a.bmp") + "\"\n");
+  EXPECT_EQ(std::filesystem::file_size(bmp), 54U + 50 * 300);
+  EXPECT_GT(std::filesystem::file_size(png), 50U * 301);
 }
 
 TEST(Script, ScreenShowsOverlaysAndThePictureDoesNot) {

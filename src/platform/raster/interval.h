@@ -13,6 +13,13 @@ constexpr double slack = 1e-9;
 // Beyond every figure.
 constexpr double far_away = 1e11;
 
+// Quicker than the library's, for values of 64 bits.
+inline std::int64_t rounded_down(double value) {
+  const auto cut = static_cast<std::int64_t>(value);
+  return cut - (value < static_cast<double>(cut) ? 1 : 0);
+}
+inline std::int64_t rounded_up(double value) { return -rounded_down(-value); }
+
 struct Interval {
   double left = far_away;
   double right = -far_away;
@@ -28,8 +35,7 @@ struct Interval {
   // The pixels in it; none for an empty interval.
   Range pixels(std::int64_t origin) const {
     const Interval held = cut({-far_away, far_away});
-    return {origin + static_cast<std::int64_t>(std::ceil(held.left - slack)),
-            origin + static_cast<std::int64_t>(std::floor(held.right + slack))};
+    return {origin + rounded_up(held.left - slack), origin + rounded_down(held.right + slack)};
   }
 };
 

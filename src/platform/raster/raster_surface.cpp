@@ -70,6 +70,14 @@ Bitmap& RasterSurface::target() {
   return transient_;
 }
 
+inline double RasterSurface::scale() {
+  if (ScaleMode != scaled_mode_) {
+    scaled_mode_ = ScaleMode;
+    scale_ = pixels_per_unit();
+  }
+  return scale_;
+}
+
 void RasterSurface::paint_cls() {
   has_transient_ = false;
   ++version_;
@@ -77,10 +85,10 @@ void RasterSurface::paint_cls() {
 }
 
 void RasterSurface::paint_line(double x1, double y1, double x2, double y2, Color color) {
-  const double scale = pixels_per_unit();
+  const double factor = scale();
   const double left = ScaleLeft;
   const double top = ScaleTop;
-  const raster::FarLine line{(x1 - left) * scale, (y1 - top) * scale, (x2 - left) * scale, (y2 - top) * scale};
+  const raster::FarLine line{(x1 - left) * factor, (y1 - top) * factor, (x2 - left) * factor, (y2 - top) * factor};
   Bitmap& bitmap = target();
   if (DrawWidth <= 1 && DrawStyle == 0 && rounds_inside(line.x1, bitmap.width) &&
       rounds_inside(line.x2, bitmap.width) && rounds_inside(line.y1, bitmap.height) &&

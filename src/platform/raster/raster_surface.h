@@ -40,11 +40,15 @@ class RasterSurface : public Surface {
  private:
   friend class RasterContext;
   Bitmap& target();
+  // The pixels per unit, kept until the unit changes.
+  double scale();
 
   FontService& fonts_;
   std::unique_ptr<RasterContext> context_;
   Bitmap picture_;
   Bitmap transient_;
+  int scaled_mode_ = -1;
+  double scale_ = 1;
   bool kept_ = true;
   bool has_transient_ = false;
   std::uint64_t version_ = 0;

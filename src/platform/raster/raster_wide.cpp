@@ -10,12 +10,20 @@ namespace {
 class Path {
  public:
   Path(Offset from, Offset to, double radius)
-      : from_(from), to_(to), dx_(to.x - from.x), dy_(to.y - from.y), length_(std::hypot(dx_, dy_)), radius_(radius) {}
+      : from_(from),
+        to_(to),
+        dx_(to.x - from.x),
+        dy_(to.y - from.y),
+        square_(dx_ * dx_ + dy_ * dy_),
+        reach_(radius * std::sqrt(square_)),
+        across_(dy_ == 0 ? 0 : 1 / dy_),
+        along_(dx_ == 0 ? 0 : 1 / dx_),
+        radius_(radius) {}
 
   Interval row(double y) const {
     Interval result;
     result.hold(disc(from_, y));
-    if (length_ > 0) {
+    if (square_ > 0) {
       result.hold(disc(to_, y));
       result.hold(band(y));
     }
@@ -30,17 +38,26 @@ class Path {
     return {centre.x - half, centre.x + half};
   }
 
+  // The x with low <= factor * x <= high, `inverse` being that of the factor, or 0.
+  static Interval quick_solution(double inverse, double low, double high) {
+    if (inverse == 0) return low <= 0 && high >= 0 ? whole_row : nothing;
+    return inverse > 0 ? Interval{low * inverse, high * inverse} : Interval{high * inverse, low * inverse};
+  }
+
   Interval band(double y) const {
     const double off = y - from_.y;
-    const double reach = radius_ * length_;
-    const Interval near_line = solution(dy_, dx_ * off - reach, dx_ * off + reach);
-    const Interval along = solution(dx_, -dy_ * off, length_ * length_ - dy_ * off);
-    const Interval both = near_line.cut(along);
+    const Interval near_line = quick_solution(across_, dx_ * off - reach_, dx_ * off + reach_);
+    const Interval between_ends = quick_solution(along_, -dy_ * off, square_ - dy_ * off);
+    const Interval both = near_line.cut(between_ends);
     return both.empty() ? nothing : Interval{both.left + from_.x, both.right + from_.x};
   }
 
   Offset from_, to_;
-  double dx_, dy_, length_, radius_;
+  double dx_, dy_;
+  double square_;  // of the length
+  double reach_;   // radius times length
+  double across_, along_;
+  double radius_;
 };
 
 void wide_segment(Bitmap& bitmap, const WideInk& ink, Point from, Point to) {
