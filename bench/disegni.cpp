@@ -40,7 +40,8 @@ std::string cartella_bench() {
     const auto nome = std::filesystem::temp_directory_path() / ("trelvo_bench_" + std::to_string(getpid()));
     std::filesystem::create_directories(nome);
     std::atexit([] {
-      std::filesystem::remove_all(std::filesystem::temp_directory_path() / ("trelvo_bench_" + std::to_string(getpid())));
+      std::filesystem::remove_all(std::filesystem::temp_directory_path() /
+                                  ("trelvo_bench_" + std::to_string(getpid())));
     });
     return nome.string();
   }();

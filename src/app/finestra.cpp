@@ -126,8 +126,8 @@ void Form_QueryUnload(distipo& doc, bool& Cancel) {
     --bas.ndocumenti;
     return;
   }
-  const int risposta = bas.desktop.message_box(
-      "Salvare le modifiche al file: \"" + doc.Caption.get() + "\"", Buttons::yes_no_cancel);
+  const int risposta =
+      bas.desktop.message_box("Salvare le modifiche al file: \"" + doc.Caption.get() + "\"", Buttons::yes_no_cancel);
   if (risposta == answer_yes) {
     const bool nuovo = senza_nome(doc.Caption);
     Cancel = true;

@@ -337,7 +337,8 @@ comando riga_rettangolo() {
 void prompt_distanza(distipo& doc) { scrivi_prompt(doc, " Distanza-Angolo_Dal Punto: "); }
 
 void clic_distanza(distipo& doc, float& X, float& Y) {
-  clic_due_punti(doc, X, Y, [](distipo&, double, double) {}, secondo_nel_record);
+  clic_due_punti(
+      doc, X, Y, [](distipo&, double, double) {}, secondo_nel_record);
 }
 
 void anteprima_distanza(distipo& doc, double x1, double y1, float& x2, float& y2) {
@@ -364,7 +365,7 @@ comando riga_distanza() {
 }  // namespace
 
 std::vector<comando> comandi_disegno() {
-  return {riga_linea(), riga_cerchio(), riga_arco(),       riga_polilinea(),
+  return {riga_linea(),      riga_cerchio(),    riga_arco(),    riga_polilinea(),
           riga_superficie(), riga_rettangolo(), riga_distanza()};
 }
 

@@ -76,9 +76,7 @@ void muovi_croce(impostForm& f, float X, float Y) {
 
 void prendi_carattere(distipo& doc) {
   const SurfaceFont& c = doc.surface.font;
-  doc.bas.impost.CommonDialog1 = {c.name,      c.size,         c.bold,
-                                  c.italic,    c.underline,    c.strikethru,
-                                  doc.surface.ForeColor};
+  doc.bas.impost.CommonDialog1 = {c.name, c.size, c.bold, c.italic, c.underline, c.strikethru, doc.surface.ForeColor};
 }
 
 void scegli_colore(trelvobas& bas, const char* titolo, TextBox& casella) {
@@ -121,6 +119,7 @@ void conferma_colore(trelvobas& bas) {
 void prepara_Selcol(trelvobas& bas) {
   SelcolForm& s = bas.Selcol;
   std::vector<OptionButton*> opzioni;
+  opzioni.reserve(numero_colori);
   for (int i = 0; i < numero_colori; ++i) opzioni.push_back(&s.Option1(i));
   group_options(opzioni, {});
   s.Load = [&s] {

@@ -97,11 +97,16 @@ void impfiltri(distipo& doc, int valore) {
 
 int filtro_successivo(int valore) {
   switch (valore) {
-    case 0: return 2;
-    case 2: return 3;
-    case 3: return 4;
-    case 4: return 6;
-    default: return 0;
+    case 0:
+      return 2;
+    case 2:
+      return 3;
+    case 3:
+      return 4;
+    case 4:
+      return 6;
+    default:
+      return 0;
   }
 }
 

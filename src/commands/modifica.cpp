@@ -13,9 +13,7 @@ constexpr int primo_comando = 3;
 constexpr int ultimo_comando = 9;
 constexpr int indice_stira = 8;
 
-const char* modo(int Index) {
-  return Index == 1 ? modo_oggetto : Index == 2 ? modo_finestra : modo_intersezione;
-}
+const char* modo(int Index) { return Index == 1 ? modo_oggetto : Index == 2 ? modo_finestra : modo_intersezione; }
 
 }  // namespace
 
@@ -30,8 +28,8 @@ void modifica_Click(distipo& doc, int Index) {
   if (doc.cmd.statooggetti != 1 && doc.cmd.statotesti != 1) {
     if (Index == 1) return;
     doc.bas.desktop.beep();
-    doc.bas.desktop.message_box(
-        "Impossibile eseguire: \"" + doc.modifica(Index).Caption.get() + "\" - Disegno Vuoto", Buttons::ok);
+    doc.bas.desktop.message_box("Impossibile eseguire: \"" + doc.modifica(Index).Caption.get() + "\" - Disegno Vuoto",
+                                Buttons::ok);
     return;
   }
   if (doc.cmd.comandosospeso.tipo().empty()) doc.cmd.ntrovati = 0;

@@ -42,8 +42,7 @@ void primoprompt(distipo& doc) {
 
 template <class Oggetto>
 void scrivi_vertice(distipo& doc, int n) {
-  doc.bas.frmMain.Label1.Caption =
-      std::string(" ") + spezzata<Oggetto>::nome + ": " + std::to_string(n) + "° Vertice";
+  doc.bas.frmMain.Label1.Caption = std::string(" ") + spezzata<Oggetto>::nome + ": " + std::to_string(n) + "° Vertice";
 }
 
 template <class Oggetto>

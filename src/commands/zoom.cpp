@@ -106,8 +106,7 @@ void scorri(distipo& doc, bool orizzontale) {
   const auto alto = static_cast<float>(v.alto);
   const auto destra = static_cast<float>(sinistra + doc.surface.ScaleWidth / doc.vista.rapscala);
   const auto basso = static_cast<float>(alto + doc.surface.ScaleHeight / doc.vista.rapscala);
-  const double estensione =
-      orizzontale ? doc.vista.xmaxdis - doc.vista.xmindis : doc.vista.ymaxdis - doc.vista.ymindis;
+  const double estensione = orizzontale ? doc.vista.xmaxdis - doc.vista.xmindis : doc.vista.ymaxdis - doc.vista.ymindis;
   const float unita = std::min(destra - sinistra, basso - alto) / unita_per_lato;
   if (!(unita < estensione)) return;
 

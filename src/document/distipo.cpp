@@ -32,28 +32,56 @@ distipoForm::distipoForm() : Form("distipo") {
 
   const auto esporta = dopo(file);
   riempi(opfile, *this, "opfile", file,
-         {{1, "Nuovo"}, {2, "Apri"}, {3, "Salva"}, {4, "Salva con Nome"}, {5, "Chiudi"}, {6, "-"},
-          {7, "Imposta Stampante"}, {8, "Stampa"}});
+         {{1, "Nuovo"},
+          {2, "Apri"},
+          {3, "Salva"},
+          {4, "Salva con Nome"},
+          {5, "Chiudi"},
+          {6, "-"},
+          {7, "Imposta Stampante"},
+          {8, "Stampa"}});
   file.items.insert(file.items.end(), esporta.begin(), esporta.end());
 
   riempi(opdis, *this, "opdis", disegna,
-         {{1, "Linea"}, {2, "Cerchio"}, {3, "Arco"}, {4, "Testo"}, {5, "Polilinea"}, {6, "Superficie"},
+         {{1, "Linea"},
+          {2, "Cerchio"},
+          {3, "Arco"},
+          {4, "Testo"},
+          {5, "Polilinea"},
+          {6, "Superficie"},
           {7, "Rettangolo"}});
-  riempi(selezoom, *this, "selezoom", visual,
-         {{1, "Zoom Area"}, {2, "Zoom Tutto"}, {3, "Zoom Prec."}, {4, "Zoom %"}});
+  riempi(selezoom, *this, "selezoom", visual, {{1, "Zoom Area"}, {2, "Zoom Tutto"}, {3, "Zoom Prec."}, {4, "Zoom %"}});
   riempi(barre, *this, "barre", visual,
-         {{1, "Barra strumenti"}, {2, "-"}, {3, "Coordinate cursore"}, {4, "Riga Comandi"}, {5, "-"},
-          {6, "Barra scorrimento orizzontale"}, {7, "Barra scorrimento verticale"}});
+         {{1, "Barra strumenti"},
+          {2, "-"},
+          {3, "Coordinate cursore"},
+          {4, "Riga Comandi"},
+          {5, "-"},
+          {6, "Barra scorrimento orizzontale"},
+          {7, "Barra scorrimento verticale"}});
   const auto distanza = dopo(mnuedita);
   riempi(modifica, *this, "modifica", mnuedita,
-         {{1, "Imposta Selezione"}, {2, "-"}, {3, "Cancella"}, {4, "Sposta"}, {5, "Copia"}, {6, "Ruota"},
-          {7, "Specchio"}, {8, "Stira"}, {9, "Proprietà Oggetto"}, {10, "-"}});
+         {{1, "Imposta Selezione"},
+          {2, "-"},
+          {3, "Cancella"},
+          {4, "Sposta"},
+          {5, "Copia"},
+          {6, "Ruota"},
+          {7, "Specchio"},
+          {8, "Stira"},
+          {9, "Proprietà Oggetto"},
+          {10, "-"}});
   mnuedita.items.insert(mnuedita.items.end(), distanza.begin(), distanza.end());
   riempi(impo, *this, "impo", modifica(1),
          {{1, "Seleziona Oggetto"}, {2, "Seleziona Finestra"}, {3, "Seleziona Intersezione"}});
   riempi(aiutdis, *this, "aiutdis", aiuti,
-         {{1, "Impost. Generali"}, {2, "Caratteristiche Oggetti"}, {3, "-"}, {4, "Snap", key_f6},
-          {5, "Grid ", key_f7}, {6, "Orto", key_f8}, {7, "Mostra Bordo Testo"}});
+         {{1, "Impost. Generali"},
+          {2, "Caratteristiche Oggetti"},
+          {3, "-"},
+          {4, "Snap", key_f6},
+          {5, "Grid ", key_f7},
+          {6, "Orto", key_f8},
+          {7, "Mostra Bordo Testo"}});
   const auto sotto = [&](const char* nome, const char* titolo) {
     return std::make_unique<MenuItem>(*this, nome, no_index, titolo, &aiutdis(2));
   };

@@ -53,8 +53,8 @@ frmMainForm::frmMainForm() : Form("frmMain") {
   gestfile.add(*this, "gestfile", 2, "Apri", &file);
   gestfile.add(*this, "gestfile", 3, "Esci", &file);
 
-  for (Control* barra : {static_cast<Control*>(&CoolBar1), static_cast<Control*>(&Picture1),
-                         static_cast<Control*>(&Picture2)}) {
+  for (Control* barra :
+       {static_cast<Control*>(&CoolBar1), static_cast<Control*>(&Picture1), static_cast<Control*>(&Picture2)}) {
     barra->Visible = false;
   }
   Picture2.Width = 19200;

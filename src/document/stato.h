@@ -10,7 +10,8 @@
 
 namespace trelvo {
 
-// Command engine. Index 0 of `comandi` is never a command; those below `livello` are the history, that at `livello` runs.
+// Command engine. Index 0 of `comandi` is never a command; those below `livello` are the history, that at `livello`
+// runs.
 struct statocomandi {
   std::vector<reccomando> comandi{2};
   int livello = 1;

@@ -2,7 +2,8 @@
 
 namespace trelvo {
 
-trelvobas::trelvobas(Desktop& scrivania, const std::string& cartella) : desktop(scrivania), fileini(cartella), impost(scrivania.fonts()) {
+trelvobas::trelvobas(Desktop& scrivania, const std::string& cartella)
+    : desktop(scrivania), fileini(cartella), impost(scrivania.fonts()) {
   if (fileini.empty() || fileini.back() != '/') fileini += '/';
   fileini += "Trelvo.ini";
 }

@@ -40,6 +40,7 @@ void esegui_su(distipo& doc, int n, int& contatore) {
       coll.aggiungi(std::move(nuovo));
     });
   } else if (nome == "Stira") {
+    static_cast<void>(traslazione(punti));  // fails before anything has moved
     passa(coll, contatore, [&punti](Classe& o) { stira(o, punti); });
   } else if (nome == "Ruota") {
     passa(coll, contatore, [r = rotazione(punti)](Classe& o) { ruota(o, r); });

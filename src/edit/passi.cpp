@@ -33,13 +33,27 @@ void rimisura(Oggetto& o) {
   o.supf = area(o.vertici.tutti());
 }
 
+// Leaves the point as it is for an arc that has none.
+void prendi_centro(const Arco& o, double& x, double& y) {
+  double xc = x;
+  double yc = y;
+  double raggio = 0;
+  cerchio_per_tre_punti(o.p1x, o.p1y, o.p2x, o.p2y, o.p3x, o.p3y, xc, yc, raggio);
+  if (!std::isfinite(xc) || !std::isfinite(yc)) return;
+  x = xc;
+  y = yc;
+}
+
 }  // namespace
 
 double punti_comando::dx() const { return finito(x2 - x1); }
 double punti_comando::dy() const { return finito(y2 - y1); }
 double punti_comando::radianti() const { return finito(x2 * pigreco / 180); }
 
-riflessione::riflessione(const punti_comando& p) : asse(p.x1, p.y1, p.x1 + p.dx(), p.y1 + p.dy()) {}
+riflessione::riflessione(const punti_comando& p) : asse(p.x1, p.y1, p.x2, p.y2) {
+  finito(p.dx());
+  finito(p.dy());
+}
 
 void ruota(testo& o, const rotazione& r) {
   const double d =
@@ -79,8 +93,7 @@ void stira(Arco& o, punti_comando& p) {
   if (o.vert2_selez == 1) t(o.p2x, o.p2y);
   if (o.vert1_selez == 1 || o.vert2_selez == 1) {
     t(o.p3x, o.p3y);
-    double raggio = 0;
-    cerchio_per_tre_punti(o.p1x, o.p1y, o.p2x, o.p2y, o.p3x, o.p3y, p.x1, p.y1, raggio);
+    prendi_centro(o, p.x1, p.y1);
     if (!detPinArco(o.p3x, o.p3y, p.x1, p.y1, o.p1x, o.p1y, o.p2x, o.p2y)) {
       std::swap(o.p1x, o.p2x);
       std::swap(o.p1y, o.p2y);

@@ -27,9 +27,7 @@ class collezione {
   std::size_t numero() const { return numero_; }
 
   // Positions count from 1. Error 9 outside.
-  T& operator()(std::size_t posizione) {
-    return const_cast<T&>(std::as_const(*this)(posizione));
-  }
+  T& operator()(std::size_t posizione) { return const_cast<T&>(std::as_const(*this)(posizione)); }
   const T& operator()(std::size_t posizione) const {
     if (posizione < 1 || posizione > numero_) throw RuntimeError(error_bad_index);
     return blocchi_[(posizione - 1) / per_blocco][(posizione - 1) % per_blocco];

@@ -25,9 +25,7 @@ void testo::carattere_testo(const std::string& nome) {
   carattere_ = fixed_string(nome + std::string(1, '\0'), lunghezza_carattere);
 }
 
-std::string testo::nome_carattere() const {
-  return right_trimmed(carattere_.substr(0, carattere_.find('\0')));
-}
+std::string testo::nome_carattere() const { return right_trimmed(carattere_.substr(0, carattere_.find('\0'))); }
 
 std::int32_t testo::ang_testo() const { return round_to_int32(angolo_); }
 

@@ -41,9 +41,7 @@ Control::Control(Form& owner, std::string control, int position)
   form.controls.push_back(this);
 }
 
-std::string Control::full_name() const {
-  return index == no_index ? name : name + "(" + std::to_string(index) + ")";
-}
+std::string Control::full_name() const { return index == no_index ? name : name + "(" + std::to_string(index) + ")"; }
 
 MenuItem::MenuItem(Form& owner, std::string control, int position, std::string caption, MenuItem* above, int key)
     : Control(owner, std::move(control), position),

@@ -27,8 +27,12 @@ void bordo_testo(distipo& doc, const riquadro_testo& r) {
 
 riquadro_testo determvert_testo(distipo& doc, const testo& t, double X1, double Y1) {
   Surface& s = doc.surface;
-  s.font = {t.nome_carattere(),          t.dimens_testo, t.bold_testo != falso, t.corsivo_testo() != falso,
-            t.sottolineato_testo != falso, t.barrato_testo != falso};
+  s.font = {t.nome_carattere(),
+            t.dimens_testo,
+            t.bold_testo != falso,
+            t.corsivo_testo() != falso,
+            t.sottolineato_testo != falso,
+            t.barrato_testo != falso};
   const Size misura = s.GetTextExtentPoint32A(right_trimmed(t.stringa_testo));
   const double scala = doc.vista.rapscala;
   const double W = s.ScaleX(misura.width, scale_pixels, s.ScaleMode) * scala / divisore_riquadro;

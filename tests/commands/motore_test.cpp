@@ -49,12 +49,9 @@ TEST(Engine, FirstPrompts) {
   const struct {
     int item;
     const char* prompt;
-  } cases[] = {{1, " Linea_Dal Punto: "},
-               {2, " Cerchio_Centro: "},
-               {3, " Arco_Primo Punto(P.Iniziale): "},
-               {5, " Polilinea: 1° Vertice  "},
-               {6, " Superficie: 1° Vertice  "},
-               {7, " Rettangolo: Primo Punto: "}};
+  } cases[] = {
+      {1, " Linea_Dal Punto: "},       {2, " Cerchio_Centro: "},         {3, " Arco_Primo Punto(P.Iniziale): "},
+      {5, " Polilinea: 1° Vertice  "}, {6, " Superficie: 1° Vertice  "}, {7, " Rettangolo: Primo Punto: "}};
   for (const auto& c : cases) {
     Engine e;
     opdis_Click(e.doc, c.item);

@@ -97,9 +97,7 @@ TEST(Mira, ArcByTheSpanOfItsEnds) {
   EXPECT_FALSE(arco_in_mira(1, 1, .4, 0, 0, 1, 1, 2, 2));
 }
 
-TEST(Mira, ArcLevelWithItsCentreIsNoError) {
-  EXPECT_FALSE(arco_in_mira(105, 10, .5, 95, 10, 105, 10, 100, 15));
-}
+TEST(Mira, ArcLevelWithItsCentreIsNoError) { EXPECT_FALSE(arco_in_mira(105, 10, .5, 95, 10, 105, 10, 100, 15)); }
 
 }  // namespace
 }  // namespace trelvo

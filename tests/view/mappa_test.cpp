@@ -39,8 +39,17 @@ TEST(Mapping, DecimalsOfTheStep) {
   const struct {
     float step;
     int decimals;
-  } cases[] = {{1, 0},      {0.5F, 1},  {0.25F, 2}, {0.1F, 1}, {0.001F, 3}, {0.3F, 1},
-               {2.5F, 1},   {-0.5F, 1}, {100, 0},   {0, 0},    {std::numeric_limits<float>::quiet_NaN(), 0},
+  } cases[] = {{1, 0},
+               {0.5F, 1},
+               {0.25F, 2},
+               {0.1F, 1},
+               {0.001F, 3},
+               {0.3F, 1},
+               {2.5F, 1},
+               {-0.5F, 1},
+               {100, 0},
+               {0, 0},
+               {std::numeric_limits<float>::quiet_NaN(), 0},
                {1e30F, 0}};
   for (const auto& c : cases) {
     LoneDocument p;
@@ -77,9 +86,7 @@ TEST(Mapping, StepFallsInXAndGoesToTheNearestInY) {
 }
 
 TEST(Mapping, OrthoReplacesXOnATie) {
-  const struct {
-    double x, y, ortho_x, ortho_y;
-  } cases[] = {{3, 2, 3, 0}, {2, 3, 0, 3}, {2, 2, 0, 2}, {-5, 1, -5, 0}};
+  const struct { double x, y, ortho_x, ortho_y; } cases[] = {{3, 2, 3, 0}, {2, 3, 0, 3}, {2, 2, 0, 2}, {-5, 1, -5, 0}};
   for (const auto& c : cases) {
     LoneDocument p;
     double x = c.x;

@@ -14,28 +14,38 @@ constexpr double finite = 1e200;
 
 bool fits(double value) { return std::abs(value) <= largest; }
 
-// The part of a line, 0 to 1, that lies in the reach by one coordinate.
-bool cut(double start, double change, double& first, double& last) {
-  if (change == 0) return std::abs(start) <= reach;
-  const double one = (-reach - start) / change;
-  const double other = (reach - start) / change;
-  first = std::max(first, std::min(one, other));
-  last = std::min(last, std::max(one, other));
-  return first <= last;
+struct Place {
+  double along, across;
+};
+
+// Moves an end that lies too far along one direction to where the line comes into reach.
+void bring_near(Place& end, const Place& other) {
+  const double edge = std::clamp(end.along, -reach, reach);
+  if (edge == end.along) return;
+  end.across += (other.across - end.across) * ((edge - end.along) / (other.along - end.along));
+  end.along = edge;
 }
 
-double held(double value) { return std::clamp(value, -reach, reach); }
+// False if the line stays out of reach in this direction.
+bool bring_both_near(double& along1, double& across1, double& along2, double& across2) {
+  if (std::min(along1, along2) > reach || std::max(along1, along2) < -reach) return false;
+  Place first{along1, across1};
+  Place second{along2, across2};
+  bring_near(first, second);
+  bring_near(second, first);
+  along1 = first.along;
+  across1 = first.across;
+  along2 = second.along;
+  across2 = second.across;
+  return true;
+}
 
-std::optional<NearLine> cut_to_reach(const FarLine& line) {
-  const double x = std::clamp(line.x1, -finite, finite);
-  const double y = std::clamp(line.y1, -finite, finite);
-  const double dx = std::clamp(line.x2, -finite, finite) - x;
-  const double dy = std::clamp(line.y2, -finite, finite) - y;
-  double first = 0;
-  double last = 1;
-  if (!cut(x, dx, first, last) || !cut(y, dy, first, last)) return std::nullopt;
-  return NearLine{near_point(held(x + first * dx), held(y + first * dy)),
-                  near_point(held(x + last * dx), held(y + last * dy))};
+std::optional<NearLine> cut_to_reach(FarLine line) {
+  for (double* value : {&line.x1, &line.y1, &line.x2, &line.y2}) *value = std::clamp(*value, -finite, finite);
+  if (!bring_both_near(line.x1, line.y1, line.x2, line.y2)) return std::nullopt;
+  if (!bring_both_near(line.y1, line.x1, line.y2, line.x2)) return std::nullopt;
+  const auto held = [](double value) { return std::clamp(value, -reach, reach); };
+  return NearLine{near_point(held(line.x1), held(line.y1)), near_point(held(line.x2), held(line.y2))};
 }
 
 }  // namespace
