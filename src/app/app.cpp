@@ -24,6 +24,7 @@ void collega_frame(trelvobas& bas) {
   frmMainForm& f = bas.frmMain;
   for (const auto& [indice, strumenti] : f.Toolbar1.items()) {
     strumenti->ButtonClick = [&bas, i = indice](int pulsante) { Toolbar1_ButtonClick(bas, i, pulsante); };
+    strumenti->Available = [&bas, i = indice](int pulsante) { return pulsante_attivo(bas, i, pulsante); };
   }
   for (const auto& [indice, voce] : f.gestfile.items()) {
     voce->Click = [&bas, i = indice] { gestfile_Click(bas, i); };

@@ -1,9 +1,11 @@
 #include "app/frame.h"
 
+#include "app/app.h"
 #include "app/barre.h"
 #include "app/file.h"
 #include "app/finestra.h"
 #include "app/menu.h"
+#include "commands/comando.h"
 #include "commands/impostazioni.h"
 #include "commands/modifica.h"
 #include "commands/motore.h"
@@ -24,15 +26,17 @@ std::string senza_virgolette(std::string nome) {
 constexpr int strumenti_file = 1;
 constexpr int strumenti_disegna = 2;
 constexpr int strumenti_zoom = 3;
+constexpr int pulsante_stampante = 7;
+constexpr int pulsante_stampa = 8;
 constexpr int pulsante_bmp = 10;
 constexpr int pulsante_dxf = 11;
 constexpr int pulsante_distanza = 8;
 
 void pulsante_file(distipo& doc, int pulsante) {
   if (pulsante == pulsante_bmp) {
-    doc.mnucreabmp.Click();
+    scegli(doc.mnucreabmp);
   } else if (pulsante == pulsante_dxf) {
-    doc.mnudxf.Click();
+    scegli(doc.mnudxf);
   } else if (pulsante != 6 && pulsante != 9) {
     opfile_Click(doc, pulsante);
   }
@@ -71,7 +75,7 @@ void MDIForm_Load(trelvobas& bas, const std::string& riga) {
 
 void Toolbar1_ButtonClick(trelvobas& bas, int strumenti, int pulsante) {
   distipo* doc = bas.attivo();
-  if (doc == nullptr) return;
+  if (doc == nullptr || !pulsante_attivo(bas, strumenti, pulsante)) return;
   switch (strumenti) {
     case strumenti_file:
       pulsante_file(*doc, pulsante);
@@ -85,6 +89,13 @@ void Toolbar1_ButtonClick(trelvobas& bas, int strumenti, int pulsante) {
     default:
       pulsante_edita(*doc, pulsante);
   }
+}
+
+bool pulsante_attivo(const trelvobas& bas, int strumenti, int pulsante) {
+  if (strumenti == strumenti_file) return pulsante != pulsante_stampante && pulsante != pulsante_stampa;
+  if (strumenti == strumenti_zoom) return true;
+  const auto& pulsanti = bas.frmMain.Toolbar1(strumenti).buttons;
+  return trova_comando(bas, pulsanti[static_cast<std::size_t>(pulsante) - 1].tip) != nullptr;
 }
 
 void Label11_Click(trelvobas& bas) {

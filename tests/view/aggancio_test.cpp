@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "support/programma.h"
 #include "support/shapes.h"
 #include "view/pittura.h"
@@ -112,9 +114,9 @@ TEST(Snap, MiddleOfAnArcLiesOnIt) {
   s.at(4, 16, 7);
   s.expect(15, 10, "half circle");
   s.doc.dis = {};
-  add(s.doc, arc({23, 14}, {17, 14}, {20, 15}));
-  s.at(4, 20, 15);
-  s.expect(20, 15, "short arc");
+  add(s.doc, arc({15, 10}, {20, 15}, {16, 13}));
+  s.at(4, 17.5, 10 + 5 * std::sqrt(0.75));
+  s.expect(20 - 5 / std::sqrt(2), 10 + 5 / std::sqrt(2), "the other point of the line is not on the arc");
 }
 
 TEST(Snap, MissKeepsThePointFromBefore) {

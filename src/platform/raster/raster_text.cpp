@@ -106,7 +106,7 @@ std::uint32_t smooth_coverage(const GlyphMask& mask, double x, double y) {
   const double upper = coverage_at(mask, column, row) * (1 - right) + coverage_at(mask, column + 1, row) * right;
   const double lower =
       coverage_at(mask, column, row + 1) * (1 - right) + coverage_at(mask, column + 1, row + 1) * right;
-  return static_cast<std::uint32_t>(upper * (1 - below) + lower * below + 0.5);
+  return static_cast<std::uint32_t>(std::lrint(upper * (1 - below) + lower * below));
 }
 
 void put_magnified(Bitmap& bitmap, const GlyphMask& mask, Point position, double factor, std::uint32_t pixel) {

@@ -19,16 +19,24 @@ constexpr int height = 61;
 
 class Figures {
  public:
-  explicit Figures(unsigned seed) : random_(seed) {}
+  explicit Figures(unsigned seed, std::int32_t farthest = 0) : random_(seed), farthest_(farthest) {}
 
   int number(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
-  Point point() { return {number(large_side), number(large_side)}; }
+  Point point() { return {coordinate(), coordinate()}; }
   Pen pen() { return {number(5), number(3) == 0 ? 2 + number(12) : 1, number(2) == 0 ? black : red}; }
   Brush brush() { return {static_cast<Brush::Kind>(number(4)), number(6), rgb(0, 0, 255)}; }
   Background background() { return {number(2) == 0, rgb(0, 255, 0)}; }
 
  private:
+  // On the large bitmap, or often far outside.
+  std::int32_t coordinate() {
+    const int near = number(large_side);
+    if (farthest_ == 0 || number(2) == 0) return near;
+    return std::uniform_int_distribution<std::int32_t>(-farthest_, farthest_)(random_);
+  }
+
   std::mt19937 random_;
+  std::int32_t farthest_;
 };
 
 // A figure, moved by an offset.
@@ -72,6 +80,24 @@ TEST(Clipping, ShowsTheSamePixels) {
     paint(part, {-left, -top});
     ASSERT_EQ(picture(part), picture(window(whole, left, top, width, height))) << seed;
   }
+}
+
+TEST(Clipping, FarFiguresDoNotDependOnTheWindow) {
+  constexpr Point shift{16, 8};
+  int shown = 0;
+  for (unsigned seed = 0; seed < 6000; ++seed) {
+    const std::int32_t farthest = seed % 2 == 0 ? 2000000000 : 20000;
+    Figures figures(seed, farthest);
+    const Painter paint = random_figure(figures);
+    Bitmap one = blank(64, 64);
+    Bitmap other = blank(64, 64);
+    paint(one, {-left, -top});
+    paint(other, {-left - shift.x, -top - shift.y});
+    const Bitmap common = window(one, shift.x, shift.y, 64 - shift.x, 64 - shift.y);
+    ASSERT_EQ(picture(common), picture(window(other, 0, 0, common.width, common.height))) << seed;
+    if (count_painted(common) > 0) ++shown;
+  }
+  EXPECT_GT(shown, 500);
 }
 
 TEST(Clipping, NoBitmapIsTooSmall) {
