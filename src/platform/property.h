@@ -27,6 +27,7 @@ class PropertyOwner {
   virtual ~PropertyOwner() = default;
 
   PropertyBase* property(std::string_view name) const;
+  const std::vector<PropertyBase*>& properties() const { return properties_; }
 
  private:
   friend class PropertyBase;

@@ -105,12 +105,18 @@ class LettorePercorso {
 
   void esegui(QChar comando) {
     switch (comando.unicode()) {
-      case 'M': return traccia([this](QPointF fine) { forma_.moveTo(fine); });
-      case 'L': return traccia([this](QPointF fine) { forma_.lineTo(fine); });
-      case 'C': return curva();
-      case 'A': return arco();
-      case 'Z': return forma_.closeSubpath();
-      default: errore_ = true;
+      case 'M':
+        return traccia([this](QPointF fine) { forma_.moveTo(fine); });
+      case 'L':
+        return traccia([this](QPointF fine) { forma_.lineTo(fine); });
+      case 'C':
+        return curva();
+      case 'A':
+        return arco();
+      case 'Z':
+        return forma_.closeSubpath();
+      default:
+        errore_ = true;
     }
   }
 
@@ -141,8 +147,8 @@ class LettorePercorso {
   bool errore_ = false;
 };
 
-// The centre of the unit circle through the origin's opposite points `meta` and -`meta`, on the asked side. Points further
-// apart than a diameter have been drawn closer by the caller.
+// The centre of the unit circle through the origin's opposite points `meta` and -`meta`, on the asked side. Points
+// further apart than a diameter have been drawn closer by the caller.
 QPointF centro_unitario(QPointF meta, bool grande, bool orario) {
   const qreal quadrato = QPointF::dotProduct(meta, meta);
   const qreal distanza = std::sqrt(std::max<qreal>(0, (1 - quadrato) / quadrato));
@@ -209,8 +215,7 @@ DisegnoSvg leggi_svg(QIODevice& origine) {
 
 void dipingi(QPainter& pittore, const DisegnoSvg& disegno, const QRectF& area) {
   if (disegno.misura.isEmpty()) return;
-  const qreal scala =
-      std::min(area.width() / disegno.misura.width(), area.height() / disegno.misura.height());
+  const qreal scala = std::min(area.width() / disegno.misura.width(), area.height() / disegno.misura.height());
   const QSizeF misura = disegno.misura * scala;
   pittore.save();
   pittore.setRenderHint(QPainter::Antialiasing);

@@ -32,8 +32,8 @@ DisegnoSvg leggi_svg(QIODevice& origine);
 // The outline of a path's data; it stops at the first thing that it cannot read.
 QPainterPath forma_percorso(const QString& dati);
 
-// Adds an arc of an ellipse from the current point to `fine`, as the path command A: radii, turn of the ellipse's axes in
-// degrees, the larger of the two arcs or the smaller, with growing angles (clockwise on the screen) or not.
+// Adds an arc of an ellipse from the current point to `fine`, as the path command A: radii, turn of the ellipse's axes
+// in degrees, the larger of the two arcs or the smaller, with growing angles (clockwise on the screen) or not.
 void aggiungi_arco(QPainterPath& forma, QSizeF raggi, qreal gradi, bool grande, bool orario, QPointF fine);
 
 // Draws the figures with the drawing's box fitted into `area`, in its middle.

@@ -1,0 +1,64 @@
+// Reads the command line and runs the program, in windows or by a script.
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QTimer>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+
+#include "app/app.h"
+#include "platform/qt/command_line.h"
+#include "platform/qt/font_service_qt.h"
+#include "platform/qt/program_folder.h"
+#include "script/script.h"
+#include "windows/desktop_qt.h"
+
+namespace {
+
+constexpr int status_bad_command_line = 2;
+
+int run_script(int argc, char** argv, const trelvo::CommandLine& line) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  trelvo::FontServiceQt fonts;
+  return trelvo::esegui_script(line.script, trelvo::program_folder(line.folder), fonts);
+}
+
+int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {
+  const QApplication application(argc, argv);
+  QApplication::setApplicationName("Trelvo");
+  QApplication::setDesktopFileName("trelvo");
+  trelvo::DesktopQt desktop;
+  trelvo::trelvobas bas(desktop, trelvo::program_folder(line.folder));
+  desktop.attach(bas);
+  trelvo::prepara(bas);
+  desktop.run([&] { trelvo::Main(bas, line.file); });
+  const int status = QApplication::exec();
+  desktop.hide_frame();
+  return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const trelvo::CommandLine line = trelvo::read_command_line({argv + 1, argv + argc});
+    if (line.help) {
+      std::cout << trelvo::usage();
+      return 0;
+    }
+    if (line.version) {
+      std::cout << "Trelvo " TRELVO_VERSION "\n";
+      return 0;
+    }
+    return line.script.empty() ? run_windows(argc, argv, line) : run_script(argc, argv, line);
+  } catch (const trelvo::CommandLineError& error) {
+    std::cerr << error.what() << "\n";
+    return status_bad_command_line;
+  } catch (const std::filesystem::filesystem_error& error) {
+    std::cerr << error.what() << "\n";
+    return 1;
+  }
+}

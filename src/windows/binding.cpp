@@ -1,0 +1,146 @@
+#include "windows/binding.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVariant>
+
+#include "windows/desktop_qt.h"
+
+namespace trelvo {
+
+namespace {
+
+// Keeps a listening as long as the widget it serves.
+class Tie : public QObject {
+ public:
+  Tie(QObject* owner, Listening listening) : QObject(owner), listening_(std::move(listening)) {}
+
+ private:
+  Listening listening_;
+};
+
+// Tells the desktop which control has the keyboard.
+class FocusWatch : public QObject {
+ public:
+  FocusWatch(QWidget* widget, DesktopQt& desktop, Control& control)
+      : QObject(widget), desktop_(desktop), control_(control) {
+    widget->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn) desktop_.focus_came_to(control_);
+    if (event->type() == QEvent::MouseMove && control_.MouseMove) desktop_.run([&] { control_.MouseMove(); });
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  DesktopQt& desktop_;
+  Control& control_;
+};
+
+bool dark(const QColor& color) { return qGray(color.rgb()) < 128; }
+
+}  // namespace
+
+void follow(QObject* owner, PropertyBase& property, const std::function<void()>& action) {
+  new Tie(owner, property.listen(action));
+  action();
+}
+
+void bind_control(DesktopQt& desktop, QWidget* widget, Control& control, const QString& accessible_name) {
+  if (!accessible_name.isEmpty()) widget->setAccessibleName(accessible_name);
+  follow(widget, control.Visible, [widget, &control] { widget->setVisible(control.Visible); });
+  follow(widget, control.Enabled, [widget, &control] { widget->setEnabled(control.Enabled); });
+  widget->setMouseTracking(true);
+  new FocusWatch(widget, desktop, control);
+  desktop.place_control(control, widget);
+}
+
+void bind_label(DesktopQt& desktop, QLabel* widget, Label& label) {
+  widget->setTextFormat(Qt::PlainText);
+  bind_control(desktop, widget, label, {});
+  follow(widget, label.Caption, [widget, &label] { widget->setText(qt(label.Caption)); });
+  follow(widget, label.ToolTipText, [widget, &label] { widget->setToolTip(qt(label.ToolTipText)); });
+}
+
+void show_back_color(QWidget* widget, Color color) {
+  QPalette palette = widget->palette();
+  const QColor back = color_of(color);
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    palette.setColor(group, QPalette::Base, back);
+    palette.setColor(group, QPalette::Text, dark(back) ? Qt::white : Qt::black);
+  }
+  widget->setPalette(palette);
+}
+
+void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QString& accessible_name) {
+  bind_control(desktop, widget, box, accessible_name);
+  follow(widget, box.Text, [widget, &box] {
+    const QString text = qt(box.Text);
+    if (widget->text() != text) widget->setText(text);
+  });
+  follow(widget, box.Locked, [widget, &box] { widget->setReadOnly(box.Locked); });
+  follow(widget, box.BackColor, [widget, &box] { show_back_color(widget, box.BackColor); });
+  follow(widget, box.ForeColor, [widget, &box] {
+    if (box.ForeColor == 0) {
+      show_back_color(widget, box.BackColor);
+      return;
+    }
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Text, color_of(box.ForeColor));
+    widget->setPalette(palette);
+  });
+  QObject::connect(widget, &QLineEdit::textChanged, widget, [&desktop, &box](const QString& text) {
+    const std::string typed = text.toStdString();
+    if (box.Text.get() != typed) desktop.run([&] { box.Text = typed; });
+  });
+}
+
+void bind_button(DesktopQt& desktop, QAbstractButton* widget, Button& button) {
+  bind_control(desktop, widget, button, qt(button.Caption));
+  follow(widget, button.Caption, [widget, &button] { widget->setText(qt(button.Caption)); });
+  QObject::connect(widget, &QAbstractButton::clicked, widget, [&desktop, &button] {
+    desktop.run([&] {
+      if (button.Click) button.Click();
+    });
+  });
+}
+
+void bind_option(DesktopQt& desktop, QAbstractButton* widget, OptionButton& option) {
+  bind_control(desktop, widget, option, qt(option.Caption));
+  widget->setAutoExclusive(false);  // the program groups them
+  follow(widget, option.Caption, [widget, &option] { widget->setText(qt(option.Caption)); });
+  follow(widget, option.Value, [widget, &option] { widget->setChecked(option.Value); });
+  QObject::connect(widget, &QAbstractButton::clicked, widget, [&desktop, widget, &option] {
+    desktop.run([&] {
+      option.Value = true;
+      if (option.Click) option.Click();
+    });
+    widget->setChecked(option.Value);
+  });
+}
+
+void bind_frame(DesktopQt& desktop, QGroupBox* widget, Frame& frame) {
+  bind_control(desktop, widget, frame, qt(frame.Caption));
+  follow(widget, frame.Caption, [widget, &frame] { widget->setTitle(qt(frame.Caption)); });
+}
+
+void bind_scroll(DesktopQt& desktop, QScrollBar* widget, ScrollBar& bar, const QString& accessible_name) {
+  bind_control(desktop, widget, bar, accessible_name);
+  follow(widget, bar.Min, [widget, &bar] { widget->setMinimum(bar.Min); });
+  follow(widget, bar.Max, [widget, &bar] { widget->setMaximum(bar.Max); });
+  follow(widget, bar.SmallChange, [widget, &bar] { widget->setSingleStep(bar.SmallChange); });
+  follow(widget, bar.LargeChange, [widget, &bar] { widget->setPageStep(bar.LargeChange); });
+  follow(widget, bar.Value, [widget, &bar] {
+    const QSignalBlocker quiet(widget);
+    widget->setValue(bar.Value);
+  });
+  QObject::connect(widget, &QScrollBar::valueChanged, widget,
+                   [&desktop, &bar](int value) { desktop.run([&] { bar.Value = value; }); });
+}
+
+}  // namespace trelvo

@@ -1,0 +1,152 @@
+#include "windows/desktop_qt.h"
+
+#include <QApplication>
+#include <QFontDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTime>
+
+#include "app/app.h"
+#include "platform/qt/regional_qt.h"
+#include "windows/binding.h"
+#include "windows/file_dialogs.h"
+#include "windows/form_dialog.h"
+#include "windows/frame_window.h"
+
+namespace trelvo {
+
+namespace {
+
+constexpr float twips_per_pixel = 15;
+
+}  // namespace
+
+DesktopQt::DesktopQt() {
+  MousePointer.on_change([this] {
+    QApplication::restoreOverrideCursor();
+    if (MousePointer == pointer_hourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
+  });
+}
+
+DesktopQt::~DesktopQt() = default;
+
+void DesktopQt::hide_frame() { frame_.reset(); }
+
+void DesktopQt::run(const std::function<void()>& action) {
+  evento(*bas_, action);
+  if (frame_) frame_->refresh();
+}
+
+void DesktopQt::forget(const Form& form) {
+  for (const Control* control : form.controls) widgets_.erase(control);
+  if (focus() != nullptr && &focus()->form == &form) Desktop::set_focus(nullptr);
+}
+
+void DesktopQt::set_focus(Control* control) {
+  Desktop::set_focus(control);
+  const auto place = widgets_.find(control);
+  if (place == widgets_.end() || !place->second) return;
+  QWidget* widget = place->second;
+  if (widget->hasFocus() || !widget->isVisible() || !widget->isEnabled()) return;
+  widget->setFocus(Qt::OtherFocusReason);
+  if (auto* entry = qobject_cast<QLineEdit*>(widget)) entry->selectAll();
+}
+
+RegionalFormat DesktopQt::regional() const { return system_regional_format(); }
+
+float DesktopQt::timer() const { return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000; }
+
+float DesktopQt::screen_width() const {
+  const QScreen* screen = QApplication::primaryScreen();
+  return screen == nullptr ? 19200 : static_cast<float>(screen->size().width()) * twips_per_pixel;
+}
+
+QWidget* DesktopQt::parent() const {
+  QWidget* active = QApplication::activeModalWidget();
+  return active != nullptr ? active : frame_.get();
+}
+
+int DesktopQt::message_box(const std::string& text, Buttons buttons) {
+  QMessageBox box(parent());
+  box.setWindowTitle("Trelvo");
+  box.setTextFormat(Qt::PlainText);
+  box.setText(qt(text));
+  if (buttons == Buttons::ok) {
+    box.setIcon(QMessageBox::Information);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return answer_ok;
+  }
+  box.setIcon(QMessageBox::Question);
+  QPushButton* yes = box.addButton("&Sì", QMessageBox::YesRole);
+  QPushButton* no = box.addButton("&No", QMessageBox::NoRole);
+  QPushButton* cancel = box.addButton("Annulla", QMessageBox::RejectRole);
+  box.setDefaultButton(yes);
+  box.setEscapeButton(cancel);
+  box.exec();
+  if (box.clickedButton() == yes) return answer_yes;
+  return box.clickedButton() == no ? answer_no : answer_cancel;
+}
+
+void DesktopQt::beep() { QApplication::beep(); }
+
+void DesktopQt::runtime_error(int number, const std::string& text) {
+  QMessageBox box(QMessageBox::Critical, "Trelvo", QString("Errore di run-time '%1':\n\n%2").arg(number).arg(qt(text)),
+                  QMessageBox::Ok, parent());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+bool DesktopQt::show_open(CommonDialog& dialog) { return ask_open_name(parent(), dialog); }
+
+bool DesktopQt::show_save(CommonDialog& dialog) { return ask_save_name(parent(), dialog); }
+
+bool DesktopQt::show_font(FontDialog& dialog) {
+  QFont font(qt(dialog.FontName));
+  if (dialog.FontSize > 0) font.setPointSizeF(dialog.FontSize);
+  font.setBold(dialog.FontBold);
+  font.setItalic(dialog.FontItalic);
+  font.setUnderline(dialog.FontUnderline);
+  font.setStrikeOut(dialog.FontStrikethru);
+  bool confirmed = false;
+  font = QFontDialog::getFont(&confirmed, font, parent(), "Carattere");
+  if (!confirmed) return false;
+  dialog.FontName = font.family().toStdString();
+  dialog.FontSize = static_cast<float>(font.pointSizeF());
+  dialog.FontBold = font.bold();
+  dialog.FontItalic = font.italic();
+  dialog.FontUnderline = font.underline();
+  dialog.FontStrikethru = font.strikeOut();
+  return true;
+}
+
+void DesktopQt::show_modal(Form& form) {
+  form.load();
+  form.Visible = true;
+  FormDialog dialog(*this, form, parent());
+  dialog.run();
+  forget(form);
+}
+
+Desktop::ClientSize DesktopQt::create_window(Form& document) {
+  return frame_->create_document(dynamic_cast<distipo&>(document));
+}
+
+void DesktopQt::show_window(Form& document) { frame_->show_document(dynamic_cast<distipo&>(document)); }
+
+void DesktopQt::destroy_window(Form& document) {
+  frame_->destroy_document(dynamic_cast<distipo&>(document));
+  forget(document);
+}
+
+void DesktopQt::activate_window(Form& document) { frame_->activate_document(dynamic_cast<distipo&>(document)); }
+
+void DesktopQt::show_frame(Form& frame) {
+  frame_ = std::make_unique<FrameWindow>(*this);
+  frame.Visible = true;
+  frame_->showMaximized();
+}
+
+}  // namespace trelvo

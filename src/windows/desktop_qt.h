@@ -1,0 +1,66 @@
+// The desktop that the program runs on, made of Qt 6 windows and dialogs.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <unordered_map>
+
+#include "document/trelvobas.h"
+#include "platform/desktop.h"
+#include "platform/qt/font_service_qt.h"
+
+namespace trelvo {
+
+class FrameWindow;
+
+class DesktopQt : public Desktop {
+ public:
+  DesktopQt();
+  ~DesktopQt() override;
+
+  // The program that runs on it. Once, before anything is shown.
+  void attach(trelvobas& bas) { bas_ = &bas; }
+  trelvobas& bas() { return *bas_; }
+
+  // Takes the frame away, before the program it shows.
+  void hide_frame();
+
+  // Runs one event of the user, and shows what it changed.
+  void run(const std::function<void()>& action);
+
+  // Where a control's widget is.
+  void place_control(Control& control, QWidget* widget) { widgets_[&control] = widget; }
+  // The user brought the keyboard to a control.
+  void focus_came_to(Control& control) { Desktop::set_focus(&control); }
+  // A control that goes away.
+  void forget(const Form& form);
+
+  void set_focus(Control* control) override;
+  FontService& fonts() override { return fonts_; }
+  RegionalFormat regional() const override;
+  float timer() const override;
+  float screen_width() const override;
+  int message_box(const std::string& text, Buttons buttons) override;
+  void beep() override;
+  void runtime_error(int number, const std::string& text) override;
+  bool show_open(CommonDialog& dialog) override;
+  bool show_save(CommonDialog& dialog) override;
+  bool show_font(FontDialog& dialog) override;
+  void show_modal(Form& form) override;
+  ClientSize create_window(Form& document) override;
+  void show_window(Form& document) override;
+  void destroy_window(Form& document) override;
+  void activate_window(Form& document) override;
+  void show_frame(Form& frame) override;
+
+ private:
+  QWidget* parent() const;
+
+  trelvobas* bas_ = nullptr;
+  FontServiceQt fonts_;
+  std::unique_ptr<FrameWindow> frame_;
+  std::unordered_map<const Control*, QPointer<QWidget>> widgets_;
+};
+
+}  // namespace trelvo

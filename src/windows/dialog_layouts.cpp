@@ -1,0 +1,175 @@
+#include "windows/dialog_layouts.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <map>
+
+#include "windows/binding.h"
+#include "windows/canvas.h"
+#include "windows/desktop_qt.h"
+#include "windows/form_dialog.h"
+#include "windows/text_entry.h"
+
+namespace trelvo {
+
+namespace {
+
+constexpr int twips_per_pixel = 15;
+
+QPushButton* make_button(DesktopQt& desktop, Button& button, bool is_default = false) {
+  auto* widget = new QPushButton;
+  widget->setAutoDefault(is_default);
+  widget->setDefault(is_default);
+  bind_button(desktop, widget, button);
+  return widget;
+}
+
+QRadioButton* make_option(DesktopQt& desktop, OptionButton& option) {
+  auto* widget = new QRadioButton;
+  bind_option(desktop, widget, option);
+  return widget;
+}
+
+TextEntry* make_entry(DesktopQt& desktop, TextBox& box, const QString& name, int characters) {
+  auto* widget = new TextEntry(desktop, box);
+  bind_text(desktop, widget, box, name);
+  widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * (characters + 3));
+  // What is hidden keeps its place, so that nothing jumps.
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+  return widget;
+}
+
+QLayout* button_row(DesktopQt& desktop, FormDialog& dialog, Button& confirm, Button& leave) {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  row->addWidget(make_button(desktop, confirm, true));
+  row->addWidget(make_button(desktop, leave));
+  dialog.set_leave_button(leave);
+  return row;
+}
+
+void lay_out_zoomp(DesktopQt& desktop, FormDialog& dialog, Form& form) {
+  auto& z = dynamic_cast<zoompForm&>(form);
+  auto* layout = new QVBoxLayout(&dialog);
+  auto* row = new QHBoxLayout;
+  auto* label = new QLabel;
+  bind_label(desktop, label, z.Label1);
+  auto* entry = make_entry(desktop, z.Text1, "Percentuale zoom", 10);
+  label->setBuddy(entry);
+  auto* spin = new QScrollBar(Qt::Vertical);
+  bind_scroll(desktop, spin, z.VScroll1, "Cambia la percentuale");
+  spin->setInvertedAppearance(true);  // up is more
+  spin->setInvertedControls(false);
+  spin->setFixedHeight(entry->sizeHint().height() * 2);
+  row->addWidget(label);
+  row->addWidget(entry, 1);
+  row->addWidget(spin);
+  layout->addLayout(row);
+  layout->addLayout(button_row(desktop, dialog, z.Command1, z.Command2));
+  entry->setFocus();
+  entry->selectAll();
+}
+
+QGroupBox* make_group(DesktopQt& desktop, Frame& frame) {
+  auto* group = new QGroupBox;
+  bind_frame(desktop, group, frame);
+  return group;
+}
+
+QGroupBox* switch_group(DesktopQt& desktop, Frame& frame, OptionButton& on, OptionButton& off, TextBox& pitch) {
+  QGroupBox* group = make_group(desktop, frame);
+  auto* row = new QHBoxLayout(group);
+  row->addWidget(make_option(desktop, on));
+  row->addWidget(make_option(desktop, off));
+  row->addStretch(1);
+  row->addWidget(make_entry(desktop, pitch, "Passo " + qt(frame.Caption), 10));
+  return group;
+}
+
+QGroupBox* color_group(DesktopQt& desktop, Frame& frame, TextBox& index, Button& change) {
+  QGroupBox* group = make_group(desktop, frame);
+  auto* row = new QHBoxLayout(group);
+  row->addWidget(make_entry(desktop, index, qt(frame.Caption), 6), 1);
+  row->addWidget(make_button(desktop, change));
+  return group;
+}
+
+void lay_out_impost(DesktopQt& desktop, FormDialog& dialog, Form& form) {
+  auto& f = dynamic_cast<impostForm&>(form);
+  auto* settings = new QVBoxLayout;
+  settings->addWidget(switch_group(desktop, f.Frame1, f.Option1, f.Option2, f.Text3));
+  settings->addWidget(switch_group(desktop, f.Frame2, f.Option3, f.Option4, f.Text4));
+  settings->addWidget(color_group(desktop, f.Frame3, f.Text1, f.Command3));
+  settings->addWidget(color_group(desktop, f.Frame4, f.Text2, f.Command4));
+  settings->addWidget(make_button(desktop, f.Command5), 0, Qt::AlignLeft);
+  settings->addStretch(1);
+
+  auto* preview = new QVBoxLayout;
+  auto* title = new QLabel;
+  bind_label(desktop, title, f.Label1);
+  auto* canvas = new Canvas(f.anteprima, {&f.Line1, &f.Line2}, {});
+  const double ratio = dialog.devicePixelRatioF();
+  canvas->setFixedSize(static_cast<int>(f.Picture1.Width / twips_per_pixel / ratio),
+                       static_cast<int>(f.Picture1.Height / twips_per_pixel / ratio));
+  canvas->setAccessibleName("Anteprima");
+  canvas->moved = [&desktop, &f, canvas](float x, float y) {
+    desktop.run([&] { f.Picture1.SurfaceMouseMove(x, y); });
+    canvas->refresh();
+  };
+  // The preview follows every change of the dialog.
+  follow(canvas, f.Picture1.BackColor, [canvas] { canvas->update(); });
+  for (PropertyBase* property : std::initializer_list<PropertyBase*>{&f.Text1.Text, &f.Text2.Text, &f.Text3.Text,
+                                                                     &f.Option1.Value, &f.Option2.Value}) {
+    follow(canvas, *property, [canvas] { canvas->update(); });
+  }
+  preview->addWidget(title);
+  preview->addWidget(canvas);
+  preview->addStretch(1);
+
+  auto* columns = new QHBoxLayout;
+  columns->addLayout(settings, 1);
+  columns->addSpacing(8);
+  columns->addLayout(preview);
+  auto* layout = new QVBoxLayout(&dialog);
+  layout->addLayout(columns);
+  layout->addLayout(button_row(desktop, dialog, f.Command1, f.Command2));
+}
+
+void lay_out_Selcol(DesktopQt& desktop, FormDialog& dialog, Form& form) {
+  auto& s = dynamic_cast<SelcolForm&>(form);
+  auto* layout = new QVBoxLayout(&dialog);
+  auto* title = new QLabel;
+  bind_label(desktop, title, s.Label1);
+  layout->addWidget(title);
+  auto* grid = new QGridLayout;
+  constexpr int rows = numero_colori / 2;
+  for (int i = 0; i < numero_colori; ++i) {
+    auto* swatch = make_entry(desktop, s.Text1(i), qt(nome_colore(i)), 4);
+    swatch->setFocusPolicy(Qt::NoFocus);
+    const int column = i < rows ? 0 : 3;
+    grid->addWidget(make_option(desktop, s.Option1(i)), i % rows, column);
+    grid->addWidget(swatch, i % rows, column + 1);
+  }
+  grid->setColumnMinimumWidth(2, 16);
+  layout->addLayout(grid);
+  layout->addLayout(button_row(desktop, dialog, s.Command1, s.Command2));
+}
+
+}  // namespace
+
+void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form) {
+  static const std::map<std::string, void (*)(DesktopQt&, FormDialog&, Form&)> layouts{
+      {"zoomp", lay_out_zoomp}, {"impost", lay_out_impost}, {"Selcol", lay_out_Selcol}};
+  layouts.at(form.name)(desktop, dialog, form);
+}
+
+}  // namespace trelvo

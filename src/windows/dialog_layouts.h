@@ -1,0 +1,14 @@
+// Layouts of the modal forms.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace trelvo {
+
+class DesktopQt;
+class FormDialog;
+
+// By the form's name.
+void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form);
+
+}  // namespace trelvo

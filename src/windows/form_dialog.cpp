@@ -1,0 +1,45 @@
+#include "windows/form_dialog.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+
+#include "windows/binding.h"
+#include "windows/desktop_qt.h"
+#include "windows/dialog_layouts.h"
+
+namespace trelvo {
+
+FormDialog::FormDialog(DesktopQt& desktop, Form& form, QWidget* parent)
+    : QDialog(parent), desktop_(desktop), form_(form) {
+  follow(this, form.Caption, [this] { setWindowTitle(qt(form_.Caption)); });
+  lay_out_dialog(desktop_, *this, form);
+}
+
+void FormDialog::run() {
+  QEventLoop loop;
+  const Listening ended = form_.Visible.listen([&] {
+    if (!form_.Visible) loop.quit();
+  });
+  if (!form_.Visible) return;
+  setModal(true);
+  show();
+  loop.exec();
+  hide();
+}
+
+void FormDialog::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  desktop_.run([&] { form_.close(); });
+}
+
+void FormDialog::reject() {
+  desktop_.run([&] {
+    if (leave_ != nullptr && leave_->Click) {
+      leave_->Click();
+    } else {
+      form_.close();
+    }
+  });
+}
+
+}  // namespace trelvo

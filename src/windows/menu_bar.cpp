@@ -1,0 +1,84 @@
+#include "windows/menu_bar.h"
+
+#include <QMenu>
+
+#include "app/app.h"
+#include "windows/binding.h"
+#include "windows/desktop_qt.h"
+
+namespace trelvo {
+
+namespace {
+
+// The key that a caption names behind a run of blanks stands at the right, as a shortcut does.
+QString title_of(const std::string& caption) {
+  QString title = qt(caption);
+  const auto gap = title.indexOf("   ");
+  return gap < 0 ? title : title.left(gap);
+}
+
+QKeySequence shortcut_of(const MenuItem& item) {
+  constexpr int code_f1 = 112;
+  if (item.shortcut < code_f1) return {};
+  return QKeySequence(Qt::Key_F1 + (item.shortcut - code_f1));
+}
+
+void sync(QAction* action, const MenuItem& item) {
+  action->setCheckable(item.Checked);
+  action->setChecked(item.Checked);
+}
+
+}  // namespace
+
+void MenuSet::add_item(QMenu& menu, MenuItem& item) {
+  if (item.Caption.get() == "-") {
+    menu.addSeparator();
+    return;
+  }
+  QAction* action = nullptr;
+  if (item.items.empty()) {
+    action = menu.addAction(title_of(item.Caption));
+    action->setShortcut(shortcut_of(item));
+    QObject::connect(action, &QAction::triggered, action, [this, alive = alive_, &item, action] {
+      desktop_.run([&] { scegli(item); });
+      if (*alive) sync(action, item);
+    });
+    follow(action, item.Checked, [action, &item] { sync(action, item); });
+  } else {
+    QMenu* sub = menu.addMenu(title_of(item.Caption));
+    fill(*sub, item.items);
+    action = sub->menuAction();
+  }
+  follow(action, item.Enabled, [action, &item] { action->setEnabled(item.Enabled); });
+  follow(action, item.Visible, [action, &item] { action->setVisible(item.Visible); });
+}
+
+void MenuSet::fill(QMenu& menu, const std::vector<MenuItem*>& items) {
+  for (MenuItem* item : items) add_item(menu, *item);
+}
+
+MenuSet::MenuSet(DesktopQt& desktop, QMenuBar& bar, const Form& form, std::function<void(QMenu&)> window_list)
+    : desktop_(desktop), bar_(bar), window_list_(std::move(window_list)) {
+  for (MenuItem* top : form.menus) {
+    auto* menu = new QMenu(title_of(top->Caption), &bar_);
+    bar_.addMenu(menu);
+    menus_.push_back(menu);
+    fill(*menu, top->items);
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [this, top, menu] {
+      if (top->Click) desktop_.run([&] { top->Click(); });
+      if (top->name == "mnufinestra" && window_list_) window_list_(*menu);
+    });
+    follow(menu, top->Visible, [menu, top] { menu->menuAction()->setVisible(top->Visible); });
+  }
+}
+
+MenuSet::~MenuSet() {
+  *alive_ = false;
+  for (QMenu* menu : menus_) {
+    bar_.removeAction(menu->menuAction());
+    menu->disconnect();
+    menu->deleteLater();
+  }
+}
+
+}  // namespace trelvo
