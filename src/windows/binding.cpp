@@ -81,7 +81,14 @@ void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QStrin
   bind_control(desktop, widget, box, accessible_name);
   follow(widget, box.Text, [widget, &box] {
     const QString text = qt(box.Text);
-    if (widget->text() != text) widget->setText(text);
+    if (widget->text() == text) return;
+    widget->setText(text);
+    // What the program wrote is replaced by typing; what does not fit shows from its start.
+    if (widget->hasFocus()) {
+      widget->selectAll();
+    } else {
+      widget->setCursorPosition(0);
+    }
   });
   follow(widget, box.Locked, [widget, &box] { widget->setReadOnly(box.Locked); });
   follow(widget, box.BackColor, [widget, &box] { show_back_color(widget, box.BackColor); });

@@ -146,6 +146,7 @@ void DesktopQt::activate_window(Form& document) { frame_->activate_document(dyna
 void DesktopQt::show_frame(Form& frame) {
   frame_ = std::make_unique<FrameWindow>(*this);
   frame.Visible = true;
+  if (const QScreen* screen = QApplication::primaryScreen()) frame_->resize(screen->availableSize());
   frame_->showMaximized();
 }
 
