@@ -2,7 +2,8 @@
 
 #include <QApplication>
 #include <QGuiApplication>
-#include <QTimer>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -30,6 +31,11 @@ int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName("Trelvo");
   QApplication::setDesktopFileName("trelvo");
+  // The face speaks Italian, Qt's own dialogs included where their texts are installed.
+  QTranslator texts;
+  if (texts.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&texts);
+  }
   trelvo::DesktopQt desktop;
   trelvo::trelvobas bas(desktop, trelvo::program_folder(line.folder));
   desktop.attach(bas);

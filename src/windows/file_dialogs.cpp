@@ -36,6 +36,11 @@ bool ask(QWidget* parent, CommonDialog& dialog, QFileDialog::AcceptMode mode) {
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   box.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks
+  box.setLabelText(QFileDialog::LookIn, "Cerca in:");
+  box.setLabelText(QFileDialog::FileName, "&Nome:");
+  box.setLabelText(QFileDialog::FileType, "Tipo:");
+  box.setLabelText(QFileDialog::Accept, mode == QFileDialog::AcceptOpen ? "&Apri" : "&Salva");
+  box.setLabelText(QFileDialog::Reject, "Annulla");
   QStringList names;
   for (const Filter& filter : filters) names.append(shown(filter));
   box.setNameFilters(names);

@@ -1,6 +1,7 @@
 #include "script/script.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <sstream>
@@ -19,7 +20,7 @@ struct Ran {
 // A program's folder of its own, gone at the end.
 class Folder {
  public:
-  Folder() : path_(std::filesystem::path(testing::TempDir()) / "trelvo_script_test") {
+  Folder() : path_(std::filesystem::path(testing::TempDir()) / ("trelvo_script_" + std::to_string(getpid()))) {
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
   }

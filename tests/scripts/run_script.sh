@@ -13,7 +13,7 @@ first=$(head -n 1 "$script")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 1
-env -u DISPLAY -u WAYLAND_DISPLAY LC_ALL=C.UTF-8 "$program" --folder "$folder" --script "$script" \
+env -u DISPLAY -u WAYLAND_DISPLAY XDG_RUNTIME_DIR="$folder" LC_ALL=C.UTF-8 "$program" --folder "$folder" --script "$script" \
   >"$folder/.out" 2>"$folder/.err"
 got=$?
 

@@ -1,5 +1,5 @@
-// Letters of the desktop's fonts, as outlines scaled to the asked size: the same shapes at every angle and scale. A face
-// that is missing falls back to the nearest one. Wants a QGuiApplication.
+// Letters of the desktop's fonts, as outlines scaled to the asked size: the same shapes at every angle and scale. A
+// face that is missing falls back to the nearest one. Wants a QGuiApplication.
 #pragma once
 
 #include <memory>

@@ -1,0 +1,73 @@
+#!/usr/bin/env bash
+# Drives the real window: real_window.sh TRELVO. A line by mouse, one by typed coordinates, a zoom, a save by keyboard;
+# what was saved is read back by the scripted face.
+set -euo pipefail
+program=$1
+for tool in Xvfb xdotool; do
+  command -v $tool >/dev/null || { echo "$tool is missing: the window is not tried"; exit 77; }
+done
+
+folder=$(mktemp -d)
+exec 3<>"$folder/display"
+Xvfb -displayfd 3 -screen 0 1280x800x24 >/dev/null 2>&1 &
+server=$!
+running=
+cleanup() {
+  [ -n "$running" ] && kill "$running" 2>/dev/null
+  kill "$server" 2>/dev/null
+  wait 2>/dev/null || true
+  rm -rf "$folder"
+}
+trap cleanup EXIT
+for _ in $(seq 100); do
+  [ -s "$folder/display" ] && break
+  sleep 0.1
+done
+export DISPLAY=":$(tr -d '\n' <"$folder/display")" QT_QPA_PLATFORM=xcb
+
+"$program" --folder "$folder" 2>"$folder/errors" &
+running=$!
+window=$(xdotool search --sync --onlyvisible --name 'Trelvo - ' | tail -n 1)
+
+keys() { xdotool key --delay 60 "$@"; sleep 0.2; }
+menu() { # menu ALT-KEY ITEM, from 1
+  keys "alt+$1"
+  for _ in $(seq 2 "$2"); do keys Down; done
+  keys Return
+}
+point() { xdotool mousemove "$1" "$2"; sleep 0.2; xdotool click 1; sleep 0.2; }
+
+sleep 0.5
+xdotool windowfocus --sync "$window"
+sleep 0.3
+menu f 1                # Nuovo
+sleep 0.5
+menu d 1                # Linea
+point 300 250
+point 420 330
+xdotool click 3; sleep 0.2
+menu d 1
+xdotool type --delay 30 '4,4'; keys Return
+xdotool type --delay 30 '20,12.5'; keys Return
+keys Escape
+menu v 2                # Zoom Tutto
+menu f 4                # Salva con Nome
+sleep 0.5
+xdotool type --delay 20 "$folder/finestra.DIS"; keys Return
+for _ in $(seq 50); do
+  [ -s "$folder/finestra.DIS" ] && break
+  sleep 0.1
+done
+kill -0 "$running" || { echo "the program ended"; cat "$folder/errors"; exit 1; }
+
+unset DISPLAY
+printf 'start "%s"\nobjects\n' "$folder/finestra.DIS" | "$program" --folder "$folder" --script - >"$folder/read.txt"
+cat "$folder/read.txt"
+# Clicks and typed points pass through the window's own units: six decimals are what they keep.
+rounded() {
+  grep "^Linea $1 " "$folder/read.txt" | tr ' ' '\n' | LC_ALL=C awk -F= '/^[XY][if]=/ { printf "%s=%.4f ", $1, $2 }'
+}
+[ "$(grep -c '^Linea ' "$folder/read.txt")" = 2 ]
+[ "$(rounded 2)" = 'Xi=4.0000 Yi=4.0000 Yf=12.5000 Xf=20.0000 ' ]
+# The clicks fell on the step.
+rounded 1 | grep -Eq '^Xi=[0-9]+\.0000 Yi=[0-9]+\.0000 Yf=[0-9]+\.0000 Xf=[0-9]+\.0000 $'
