@@ -136,7 +136,13 @@ void punto_di_fine(distipo& doc, float& X, float& Y) {
     r.y2 = b;
   }
   doc.surface.set_AutoRedraw(true);
-  eseguicomando(doc, doc.cmd.livello);
+  try {
+    eseguicomando(doc, doc.cmd.livello);
+  } catch (...) {
+    // The step goes on, and its previews stay off the kept picture.
+    if (doc.cmd.passo == passo_fine) doc.surface.set_AutoRedraw(false);
+    throw;
+  }
   scrivilabel1(doc);
 }
 

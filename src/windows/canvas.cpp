@@ -38,8 +38,8 @@ void Canvas::refresh() {
   if (version_ != surface_.version()) update();
 }
 
-float Canvas::logical_width() const { return in_twips(width(), devicePixelRatioF()); }
-float Canvas::logical_height() const { return in_twips(height(), devicePixelRatioF()); }
+float Canvas::logical_width() const { return in_twips(width(), ratio()); }
+float Canvas::logical_height() const { return in_twips(height(), ratio()); }
 
 void Canvas::paintEvent(QPaintEvent* /*event*/) {
   version_ = surface_.version();
@@ -48,13 +48,13 @@ void Canvas::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   if (shown_.pixels.empty()) return;
   QImage image(reinterpret_cast<const uchar*>(shown_.pixels.data()), shown_.width, shown_.height, QImage::Format_RGB32);
-  image.setDevicePixelRatio(devicePixelRatioF());
+  image.setDevicePixelRatio(ratio());
   painter.fillRect(rect(), color_of(surface_.BackColor));
   painter.drawImage(0, 0, image);
 }
 
 QPointF Canvas::logical(const QPointF& place) const {
-  const QPointF pixel = place * devicePixelRatioF();
+  const QPointF pixel = place * ratio();
   return {surface_.ScaleLeft + std::floor(pixel.x()) * twips_per_pixel,
           surface_.ScaleTop + std::floor(pixel.y()) * twips_per_pixel};
 }

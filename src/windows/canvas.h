@@ -15,6 +15,9 @@ class Canvas : public QWidget {
   Canvas(RasterSurface& surface, std::vector<OverlayLine*> lines, std::vector<OverlayShape*> shapes,
          QWidget* parent = nullptr);
 
+  // A preview of fixed size: its pixels grow with the screen's scale instead of getting finer.
+  void keep_size() { fixed_ = true; }
+
   // Shows the surface again if it was painted on.
   void refresh();
 
@@ -36,6 +39,7 @@ class Canvas : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  double ratio() const { return fixed_ ? 1 : devicePixelRatioF(); }
   QPointF logical(const QPointF& place) const;
 
   RasterSurface& surface_;
@@ -43,6 +47,7 @@ class Canvas : public QWidget {
   std::vector<const OverlayShape*> shapes_;
   Bitmap shown_;
   std::uint64_t version_ = 0;
+  bool fixed_ = false;
 };
 
 }  // namespace trelvo

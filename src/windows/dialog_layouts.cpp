@@ -117,9 +117,9 @@ void lay_out_impost(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto* title = new QLabel;
   bind_label(desktop, title, f.Label1);
   auto* canvas = new Canvas(f.anteprima, {&f.Line1, &f.Line2}, {});
-  const double ratio = dialog.devicePixelRatioF();
-  canvas->setFixedSize(static_cast<int>(f.Picture1.Width / twips_per_pixel / ratio),
-                       static_cast<int>(f.Picture1.Height / twips_per_pixel / ratio));
+  canvas->keep_size();
+  canvas->setFixedSize(static_cast<int>(f.Picture1.Width / twips_per_pixel),
+                       static_cast<int>(f.Picture1.Height / twips_per_pixel));
   canvas->setAccessibleName("Anteprima");
   canvas->moved = [&desktop, &f, canvas](float x, float y) {
     desktop.run([&] { f.Picture1.SurfaceMouseMove(x, y); });
