@@ -65,7 +65,8 @@ bool incrocia_lati(const finestra& f, double xi, double yi, double xf, double yf
     double x = 0;
     double y = 0;
     std::int16_t flag = 0;
-    detinters_segmenti(xi, yi, xf, yf, l.x1, l.y1, l.x2, l.y2, x, y, flag);
+    // The side comes first: a point on an upright or level line then has that line's own coordinate, to the bit.
+    detinters_segmenti(l.x1, l.y1, l.x2, l.y2, xi, yi, xf, yf, x, y, flag);
     if (flag == 1) return true;
   }
   return false;

@@ -96,7 +96,14 @@ void anteprima_modifica(distipo& doc, const std::string& comando, const banda& b
   } else if (comando == "Specchio") {
     // Texts keep their angle.
     const specchio asse(b.ax, b.ay, b.bx, b.by);
-    dipingi_per_punti(doc, [&](double& x, double& y) { asse.rifletti(x, y); });
+    dipingi(doc, [&](auto& o) {
+      per_ogni_punto(o, [&](double& x, double& y) { asse.rifletti(x, y); });
+      // A mirror turns the run of an arc round: with its ends exchanged it is the image and not the rest of the circle.
+      if constexpr (requires { o.p3x; }) {
+        std::swap(o.p1x, o.p2x);
+        std::swap(o.p1y, o.p2y);
+      }
+    });
   }
 }
 

@@ -25,7 +25,7 @@ bool incrocia(const finestra& f, double xi, double yi, double xf, double yf) {
   for (const finestra& l : lati(f)) {
     double x = 0, y = 0;
     std::int16_t flag = 0;
-    detinters_segmenti(xi, yi, xf, yf, l.x1, l.y1, l.x2, l.y2, x, y, flag);
+    detinters_segmenti(l.x1, l.y1, l.x2, l.y2, xi, yi, xf, yf, x, y, flag);
     if (flag == 1) return true;
   }
   return false;

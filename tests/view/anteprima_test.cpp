@@ -123,7 +123,7 @@ TEST(Preview, ObjectsInTheirNewPlace) {
   expect_shown("Specchio", band(10, 0, 10, 5), polyline({{5, 5}, {8, 9}}), polyline({{15, 5}, {12, 9}}));
   expect_shown("Specchio", band(10, 0, 10, 5), text(5, 5, "a"), text(15, 5, "a"));
   // Its ends do not change places here.
-  expect_shown("Specchio", band(10, 0, 10, 5), arc({9, 3}, {1, 3}, {5, 1}), arc({11, 3}, {19, 3}, {15, 1}));
+  expect_shown("Specchio", band(10, 0, 10, 5), arc({9, 3}, {1, 3}, {5, 1}), arc({19, 3}, {11, 3}, {15, 1}));
 }
 
 TEST(Preview, StretchMovesMarkedPoints) {

@@ -20,7 +20,7 @@ constexpr std::size_t kept_masks_size = 16U << 20;
 constexpr std::size_t largest_kept_mask = 256U << 10;
 
 std::int32_t held(double pixels) {
-  constexpr double limit = std::numeric_limits<std::int32_t>::max() / 4;
+  constexpr double limit = std::numeric_limits<std::int32_t>::max() / 4.0;
   return static_cast<std::int32_t>(std::lround(std::clamp(pixels, 0.0, limit)));
 }
 
