@@ -4,8 +4,6 @@
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
-#include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <iostream>
 
@@ -22,6 +20,10 @@ constexpr int status_bad_command_line = 2;
 
 int run_script(int argc, char** argv, const trelvo::CommandLine& line) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Standard error is the script's: what Qt only remarks on stays out of it.
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*place*/, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << "\n";
+  });
   const QGuiApplication application(argc, argv);
   trelvo::FontServiceQt fonts;
   return trelvo::esegui_script(line.script, trelvo::program_folder(line.folder), fonts);
