@@ -1,5 +1,4 @@
-#include "commands/spezzate.h"
-
+#include "commands/comandi_disegno.h"
 #include "commands/creazione.h"
 #include "commands/cursore_sospeso.h"
 #include "commands/motore.h"
