@@ -37,11 +37,11 @@ def text_field(face, text):
 
 SAMPLE = [
     record("Linea", [1, 2, 11, 7], colour1=255, style=1, width=0.0),
-    record("Superficie", [20, 2, 30, 2, 30, 8], 0x8000, 0xFFFF, 0, 4, 5.0, count=4),
+    record("Superficie", [20, 2, 30, 2, 30, 8], 0x8000, 0xFFFF, 0, 4, 0.02, count=4),
     record("ContinuaSuperficie", [20, 8], count=4),
     record("Polilinea", [2, 12, 6, 16, 10, 12], 128, 0, 2, 0, 0.0, count=5),
     record("ContinuaPolilinea", [14, 16, 18, 12], count=5),
-    record("Arco", [28, 14, 22, 14, 25, 11], 0x800000, width=10.0, count=5),
+    record("Arco", [28, 14, 22, 14, 25, 11], 0x800000, width=0.05, count=5),
     record("Cerchio", [40, 6, 43, 6], 0xFF00FF, 0x00FF00, 0, 6, 0.0, count=5),
     record("Rettangolo", [34, 12, 34, 18, 46, 18], 0x808080, 0xC0C0C0, 3, 0, 0.0, count=5),
     record("ContinuaRettangolo", [46, 12], count=5),

@@ -2,7 +2,7 @@
 # The first walk through the program: walk.sh TRELVO
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
-program=$1
+program=$(realpath "$1")
 command -v python3 >/dev/null || { echo "python3 is missing: the file cannot be checked"; exit 77; }
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

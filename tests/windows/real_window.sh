@@ -2,7 +2,7 @@
 # Drives the real window: real_window.sh TRELVO. A line by mouse, one by typed coordinates, a zoom, a save by keyboard;
 # what was saved is read back by the scripted face.
 set -euo pipefail
-program=$1
+program=$(realpath "$1")
 for tool in Xvfb xdotool; do
   command -v $tool >/dev/null || { echo "$tool is missing: the window is not tried"; exit 77; }
 done
