@@ -273,6 +273,8 @@ void riprendi_modifica(distipo& doc) {
   const reccomando ripreso = doc.cmd.comandosospeso;
   riprendi_selezione(doc, Indice);
   if (ripreso.nvertici == passo_selezione) scrivitrov(doc);
+  // A confirmed selection is no longer counted: what is left to confirm would keep a cancel from cancelling.
+  if (ripreso.nvertici >= passo_base) doc.cmd.ntrovati = 0;
   if (ripreso.nvertici == passo_base) riprendi_base(doc);
   if (ripreso.nvertici == passo_fine) riprendi_fine(doc, ripreso);
 }

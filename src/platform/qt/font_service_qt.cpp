@@ -5,7 +5,6 @@
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace trelvo {
@@ -14,8 +13,8 @@ namespace {
 
 // The painter takes no coordinates beyond this, and nobody sees more than this of one letter.
 constexpr double farthest = 16000;
-constexpr double largest_area = 64.0 * 1024 * 1024;
-constexpr double near_side = 4096;
+constexpr double largest_area = 16.0 * 1024 * 1024;
+constexpr double near_side = 2048;
 constexpr std::size_t kept_masks_size = 16U << 20;
 constexpr std::size_t largest_kept_mask = 256U << 10;
 
@@ -46,7 +45,8 @@ GlyphMask paint_mask(const QPainterPath& path) {
   const QRect area = mask_area(path.boundingRect());
   GlyphMask mask;
   if (path.isEmpty() || area.isEmpty()) return mask;
-  QImage image(area.size(), QImage::Format_Alpha8);
+  // The painter is far slower on 8-bit images than on these, of which only the alpha counts.
+  QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return mask;
   image.fill(0);
   QPainter painter(&image);
@@ -62,7 +62,9 @@ GlyphMask paint_mask(const QPainterPath& path) {
   const auto width = static_cast<std::size_t>(mask.width);
   mask.coverage.resize(width * static_cast<std::size_t>(mask.height));
   for (int y = 0; y < mask.height; ++y) {
-    std::memcpy(mask.coverage.data() + width * static_cast<std::size_t>(y), image.constScanLine(y), width);
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    std::transform(row, row + width, mask.coverage.begin() + static_cast<std::ptrdiff_t>(width) * y,
+                   [](QRgb pixel) { return static_cast<std::uint8_t>(qAlpha(pixel)); });
   }
   return mask;
 }
