@@ -1,52 +1,20 @@
 // Opening and painting of big drawings.
 
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
-#include <cmath>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <string>
 
-#include "app/app.h"
 #include "commands/zoom.h"
 #include "files/dis_documento.h"
-#include "support/desktop_finto.h"
+#include "programma_bench.h"
 #include "view/redraw.h"
 
 namespace trelvo {
 namespace {
 
-// 1200 by 800 pixels.
-constexpr Desktop::ClientSize finestra_bench{18000, 12000};
 constexpr double lato = 1000;
-
-struct programma {
-  FakeDesktop desktop;
-  trelvobas bas;
-  explicit programma(const std::string& cartella) : bas(desktop, cartella) {
-    desktop.client = finestra_bench;
-    prepara(bas);
-    Main(bas, "");
-    nuovodisegno(bas);
-  }
-  distipo& doc() { return *bas.attivo(); }
-};
-
-std::string cartella_bench() {
-  static const std::string cartella = [] {
-    const auto nome = std::filesystem::temp_directory_path() / ("trelvo_bench_" + std::to_string(getpid()));
-    std::filesystem::create_directories(nome);
-    std::atexit([] {
-      std::filesystem::remove_all(std::filesystem::temp_directory_path() /
-                                  ("trelvo_bench_" + std::to_string(getpid())));
-    });
-    return nome.string();
-  }();
-  return cartella;
-}
 
 // Short lines, each of about twenty pixels when all are in view.
 void riempi_di_linee(distipo& doc, int numero) {

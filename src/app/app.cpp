@@ -14,6 +14,7 @@
 #include "commands/motore.h"
 #include "edit/edit.h"
 #include "files/ini.h"
+#include "files/txt_documento.h"
 #include "view/croce.h"
 
 namespace trelvo {
@@ -60,6 +61,7 @@ void prepara(trelvobas& bas) {
   collega_frame(bas);
   prepara_zoomp(bas);
   prepara_impost(bas);
+  prepara_barprog(bas);
 }
 
 void Main(trelvobas& bas, const std::string& riga) {

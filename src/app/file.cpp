@@ -6,6 +6,7 @@
 #include "app/menu.h"
 #include "commands/prompt.h"
 #include "files/comandi_file.h"
+#include "files/txt_documento.h"
 #include "view/mappa.h"
 #include "view/redraw.h"
 
@@ -41,7 +42,7 @@ void nuovodisegno(trelvobas& bas) {
   ++bas.ndocumenti;
   distipo& doc = crea_finestra(bas);
   mostra_finestra(doc);
-  doc.Caption = "Disegno _ " + std::to_string(bas.progrdocumento);
+  doc.Caption = titolo_senza_nome(bas.progrdocumento);
   memxin(doc);
   impostdistipo(doc);
   bas.nomidocumenti[static_cast<std::size_t>(bas.progrdocumento)] = doc.Caption;
@@ -90,7 +91,7 @@ void opfile_Click(distipo& doc, int Index) {
 namespace {
 
 servizifile servizi() {
-  return {[](distipo& doc) { chiudi(doc); }, {}};
+  return {[](distipo& doc) { chiudi(doc); }, importa};
 }
 
 }  // namespace

@@ -10,7 +10,9 @@
 #include "commands/modifica.h"
 #include "commands/motore.h"
 #include "files/accesso_file.h"
+#include "files/comandi_file.h"
 #include "files/dis_documento.h"
+#include "files/txt_documento.h"
 #include "view/croce.h"
 
 namespace trelvo {
@@ -59,7 +61,11 @@ void apri_da_riga(trelvobas& bas, const std::string& nome) {
   const PointerGuard attesa(bas.desktop, pointer_hourglass);
   bas.nomidocumenti[static_cast<std::size_t>(bas.disegnoattivo)] = nome;
   bas.attivo()->Caption = nome;
-  leggifile(*bas.attivo());
+  if (testo_di_disegno(nome)) {
+    importa(*bas.attivo());
+  } else {
+    leggifile(*bas.attivo());
+  }
 }
 
 }  // namespace

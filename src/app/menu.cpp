@@ -7,6 +7,8 @@
 #include "commands/modifica.h"
 #include "commands/motore.h"
 #include "commands/zoom.h"
+#include "files/bmp_comando.h"
+#include "files/dxf_comando.h"
 #include "platform/numbers.h"
 
 namespace trelvo {
@@ -116,6 +118,8 @@ void collega(distipo& doc) {
   collega_voci(doc, doc.impo, impo_Click);
   collega_voci(doc, doc.aiutdis, impaiut);
   collega_voci(doc, doc.filtri, impfiltri);
+  doc.mnucreabmp.Click = [&doc] { creabmp(doc); };
+  doc.mnudxf.Click = [&doc] { crea_dxf(doc); };
   doc.mnudistanza.Click = [&doc] { mnudistanza_Click(doc); };
   doc.help.Click = [&doc] { help_Click(doc); };
   doc.informa.Click = [&doc] { informa_Click(doc); };

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "document/barprog.h"
 #include "document/distipo.h"
 #include "document/frmMain.h"
 #include "document/impost.h"
@@ -47,6 +48,7 @@ struct trelvobas {
   zoompForm zoomp;
   impostForm impost;
   SelcolForm Selcol;
+  barprogForm barprog;
 
   // Given by the floors above at start: writes the settings of a document to `fileini`.
   std::function<void(distipo&)> salvafileini_dis;

@@ -25,6 +25,8 @@ int opzioni(fileaperto::modo come) {
       return sempre | O_RDONLY;
     case fileaperto::modo::scrittura:
       return sempre | O_WRONLY | O_CREAT;
+    case fileaperto::modo::vuotato:
+      return sempre | O_WRONLY | O_CREAT | O_TRUNC;
     case fileaperto::modo::nuovo:
       break;
   }
@@ -60,6 +62,12 @@ fileaperto::fileaperto(fileaperto&& altro) noexcept
 
 fileaperto::~fileaperto() {
   if (descrittore_ >= 0) ::close(descrittore_);
+}
+
+std::uint64_t fileaperto::lunghezza() const {
+  struct stat stato {};
+  if (::fstat(descrittore_, &stato) != 0) throw errore_trasferimento(errno);
+  return static_cast<std::uint64_t>(stato.st_size);
 }
 
 std::size_t fileaperto::leggi(std::span<std::byte> dove) {

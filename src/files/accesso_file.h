@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 
@@ -13,6 +14,7 @@ class fileaperto {
     lettura,    // what is there
     scrittura,  // in place, keeping the contents; made if missing
     nuovo,      // made, error if there is one
+    vuotato,    // in place, emptied; made if missing
   };
 
   // A folder raises error 75. Neither a pipe nor a device can be read; they can be written.
@@ -22,6 +24,7 @@ class fileaperto {
   fileaperto& operator=(const fileaperto&) = delete;
   ~fileaperto();
 
+  std::uint64_t lunghezza() const;
   // Fills `dove` as far as the file goes; how much of it.
   std::size_t leggi(std::span<std::byte> dove);
   // All of it.

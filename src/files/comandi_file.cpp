@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "files/accesso_file.h"
+#include "files/chiedi_nome.h"
 #include "files/dis_documento.h"
 
 namespace trelvo {
@@ -12,7 +13,6 @@ namespace {
 constexpr const char* filtro_disegni =
     "DIsegni Trelvo (*.DIS)|*.DIS|Disegni file-testo (*.TXT)|*.TXT|Tutti i file (*.*)|*.*";
 constexpr const char* inizio_senza_nome = "Disegno _";
-// Exactly so: other cases are drawing files.
 constexpr const char* estensione_testo = ".txt";
 
 CommonDialog& dialogo_pronto(trelvobas& bas) {
@@ -23,23 +23,9 @@ CommonDialog& dialogo_pronto(trelvobas& bas) {
   return dialogo;
 }
 
-// A name to save under, asked until it is new or may be replaced. Empty: the user gave up.
-std::string chiedi_nome(trelvobas& bas, const distipo& doc) {
-  CommonDialog& dialogo = dialogo_pronto(bas);
-  for (;;) {
-    dialogo.FileName = senza_nome(doc.Caption) ? std::string() : doc.Caption.get();
-    if (!bas.desktop.show_save(dialogo)) return {};
-    std::string nome = dialogo.FileName;
-    if (!leggibile(nome)) return nome;
-    const int risposta =
-        bas.desktop.message_box("File \"" + nome + "\"  Esiste - Sovrapporre?", Buttons::yes_no_cancel);
-    if (risposta == answer_yes) return nome;
-    if (risposta != answer_no) return {};
-  }
-}
-
 void salva_con_nome(trelvobas& bas, distipo& doc) {
-  const std::string nome = chiedi_nome(bas, doc);
+  const std::string nome =
+      chiedi_nome(bas.desktop, dialogo_pronto(bas), senza_nome(doc.Caption) ? std::string() : doc.Caption.get());
   if (!scrivibile(nome)) return;
   doc.Caption = nome;
   salvafile(doc);
@@ -81,7 +67,7 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
   }
   registra_nome(bas, nome);
   doc.Caption = nome;
-  if (nome.ends_with(estensione_testo)) {
+  if (testo_di_disegno(nome)) {
     servizi.importa(doc);
   } else {
     leggifile(doc);
@@ -91,6 +77,10 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
 }  // namespace
 
 bool senza_nome(const std::string& titolo) { return titolo.starts_with(inizio_senza_nome); }
+
+bool testo_di_disegno(const std::string& nome) { return nome.ends_with(estensione_testo); }
+
+std::string titolo_senza_nome(int numero) { return std::string(inizio_senza_nome) + ' ' + std::to_string(numero); }
 
 void aprisalvadisegno(trelvobas& bas, const std::string& comando, const servizifile& servizi) {
   distipo* doc = bas.attivo();

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "commands/impostazioni.h"
 #include "commands/prompt.h"
 #include "commands/zoom.h"
 #include "document/trelvobas.h"
@@ -10,6 +9,7 @@
 #include "files/dis_formato.h"
 #include "files/dis_lettura.h"
 #include "files/dis_scrittura.h"
+#include "files/impostazioni_lette.h"
 #include "files/sostituzione.h"
 #include "model/tavolozza.h"
 #include "view/mappa.h"
@@ -18,11 +18,6 @@
 namespace trelvo {
 
 namespace {
-
-constexpr int indice_contrasto = 3;
-constexpr int indice_contrasto_di_contrasto = 15;
-constexpr int voce_step = 4;
-constexpr int voce_griglia = 5;
 
 // The count of the scratch record lives as long as the document.
 std::int16_t& nvertici_di_scarto(distipo& doc) { return doc.cmd.comandi.front().nvertici; }
@@ -58,26 +53,6 @@ void prendi_vista(distipo& doc, const testatadis& t) {
   }
 }
 
-// Leaves the item as the file has the aid, by way of the switch, which sets all that hangs on it.
-void commuta_aiuto(distipo& doc, int voce, bool attivo, errorerimandato& errore) {
-  doc.aiutdis(voce).Checked = !attivo;
-  errore.prova([&] { impaiut(doc, voce); });
-}
-
-void prendi_impostazioni(distipo& doc, const testatadis& t, errorerimandato& errore) {
-  impostazioni& imp = doc.imp;
-  imp.coloresfondo = t.coloresfondo;
-  imp.colorecontrasto =
-      indicecolore{t.coloresfondo.valore == indice_contrasto ? indice_contrasto_di_contrasto : indice_contrasto};
-  imp.colorepuntatore = t.colorepuntatore;
-  imp.statostep = t.statostep;
-  imp.passostep = t.passostep;
-  imp.statogriglia = t.statogriglia;
-  imp.passogriglia = t.passogriglia;
-  commuta_aiuto(doc, voce_step, t.statostep == acceso, errore);
-  commuta_aiuto(doc, voce_griglia, t.statogriglia == acceso, errore);
-}
-
 void leggi_testata(distipo& doc, fileaperto& file, errorerimandato& errore) {
   testatadis testata = testata_di(doc);
   std::vector<std::byte> byte(lunghezza_testata);
@@ -86,7 +61,10 @@ void leggi_testata(distipo& doc, fileaperto& file, errorerimandato& errore) {
     decodifica(byte, testata, errore);
   });
   prendi_vista(doc, testata);
-  prendi_impostazioni(doc, testata, errore);
+  prendi_impostazioni(doc,
+                      {testata.coloresfondo, testata.colorepuntatore, testata.statostep, testata.passostep,
+                       testata.statogriglia, testata.passogriglia},
+                      errore);
 }
 
 void leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {

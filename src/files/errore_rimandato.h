@@ -26,6 +26,7 @@ class errorerimandato {
   void annota(const RuntimeError& errore) {
     if (!primo_) primo_ = errore;
   }
+  bool presente() const { return primo_.has_value(); }
   void rilancia() const {
     if (primo_) throw *primo_;
   }

@@ -47,6 +47,8 @@ struct Form : PropertyOwner {
   std::function<void()> Load;
   std::function<void(bool& cancel)> QueryUnload;
   std::function<void()> Unloaded;
+  // Runs once each time the form is shown as a modal window, when it is up.
+  std::function<void()> Shown;
   std::function<void(int code)> KeyPress;
   std::function<void(int code)> KeyDown;
 

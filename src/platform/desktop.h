@@ -58,8 +58,10 @@ class Desktop : public PropertyOwner {
   virtual bool show_save(CommonDialog& dialog) = 0;
   virtual bool show_font(FontDialog& dialog) = 0;
 
-  // Loads the form, shows it, and returns when it is hidden or unloaded.
+  // Loads the form, shows it, runs its Shown as an event, and returns when it is hidden or unloaded.
   virtual void show_modal(Form& form) = 0;
+  // In the midst of a long event: paints what has changed and lets windows be moved, without input to the program.
+  virtual void process_events() {}
 
   // The window of a document: made hidden, at its client size in twips; then shown; then taken away.
   struct ClientSize {

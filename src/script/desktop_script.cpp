@@ -122,6 +122,7 @@ void DesktopScript::show_modal(Form& form) {
   dialogs_.push_back(&form);
   {
     const ProgressWatch watch(output_, form);
+    if (form.Shown) run_event(*this, form.Shown);
     use_dialog(form);
     // A form that refuses to be closed has nobody left to change its mind.
     if (form.Visible && !form.close()) form.unload();

@@ -21,13 +21,39 @@ namespace {
 
 constexpr float twips_per_pixel = 15;
 
+// A dialog that opens in the middle of an event: what was done so far shows behind it, and the user gets the pointer of
+// one who is asked, not of one who waits.
+class Interlude {
+ public:
+  explicit Interlude(DesktopQt& desktop) : desktop_(desktop) {
+    desktop_.refresh();
+    QApplication::restoreOverrideCursor();
+  }
+  Interlude(const Interlude&) = delete;
+  Interlude& operator=(const Interlude&) = delete;
+  ~Interlude() { desktop_.show_pointer(); }
+
+ private:
+  DesktopQt& desktop_;
+};
+
+// An error that the program does not foresee ends the event like those that it does.
+void run_guarded(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const RuntimeError&) {
+    throw;
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception& error) {
+    throw RuntimeError(error_bad_call, error.what());
+  }
+}
+
 }  // namespace
 
 DesktopQt::DesktopQt() {
-  MousePointer.on_change([this] {
-    QApplication::restoreOverrideCursor();
-    if (MousePointer == pointer_hourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
-  });
+  MousePointer.on_change([this] { show_pointer(); });
 }
 
 DesktopQt::~DesktopQt() = default;
@@ -35,8 +61,17 @@ DesktopQt::~DesktopQt() = default;
 void DesktopQt::hide_frame() { frame_.reset(); }
 
 void DesktopQt::run(const std::function<void()>& action) {
-  evento(*bas_, action);
+  evento(*bas_, [&] { run_guarded(action); });
+  refresh();
+}
+
+void DesktopQt::refresh() {
   if (frame_) frame_->refresh();
+}
+
+void DesktopQt::show_pointer() {
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  if (MousePointer == pointer_hourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 void DesktopQt::forget(const Form& form) {
@@ -69,6 +104,7 @@ QWidget* DesktopQt::parent() const {
 }
 
 int DesktopQt::message_box(const std::string& text, Buttons buttons) {
+  const Interlude interlude(*this);
   QMessageBox box(parent());
   box.setWindowTitle("Trelvo");
   box.setTextFormat(Qt::PlainText);
@@ -93,17 +129,25 @@ int DesktopQt::message_box(const std::string& text, Buttons buttons) {
 void DesktopQt::beep() { QApplication::beep(); }
 
 void DesktopQt::runtime_error(int number, const std::string& text) {
+  const Interlude interlude(*this);
   QMessageBox box(QMessageBox::Critical, "Trelvo", QString("Errore di run-time '%1':\n\n%2").arg(number).arg(qt(text)),
                   QMessageBox::Ok, parent());
   box.setTextFormat(Qt::PlainText);
   box.exec();
 }
 
-bool DesktopQt::show_open(CommonDialog& dialog) { return ask_open_name(parent(), dialog); }
+bool DesktopQt::show_open(CommonDialog& dialog) {
+  const Interlude interlude(*this);
+  return ask_open_name(parent(), dialog);
+}
 
-bool DesktopQt::show_save(CommonDialog& dialog) { return ask_save_name(parent(), dialog); }
+bool DesktopQt::show_save(CommonDialog& dialog) {
+  const Interlude interlude(*this);
+  return ask_save_name(parent(), dialog);
+}
 
 bool DesktopQt::show_font(FontDialog& dialog) {
+  const Interlude interlude(*this);
   QFont font(qt(dialog.FontName));
   if (dialog.FontSize > 0) font.setPointSizeF(dialog.FontSize);
   font.setBold(dialog.FontBold);
@@ -125,10 +169,13 @@ bool DesktopQt::show_font(FontDialog& dialog) {
 void DesktopQt::show_modal(Form& form) {
   form.load();
   form.Visible = true;
+  const Interlude interlude(*this);
   FormDialog dialog(*this, form, parent());
   dialog.run();
   forget(form);
 }
+
+void DesktopQt::process_events() { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 Desktop::ClientSize DesktopQt::create_window(Form& document) {
   return frame_->create_document(dynamic_cast<distipo&>(document));

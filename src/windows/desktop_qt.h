@@ -26,6 +26,11 @@ class DesktopQt : public Desktop {
   // Takes the frame away, before the program it shows.
   void hide_frame();
 
+  // Shows what the running event changed so far.
+  void refresh();
+  // The screen's pointer as the program wants it.
+  void show_pointer();
+
   // Runs one event of the user, and shows what it changed.
   void run(const std::function<void()>& action);
 
@@ -48,6 +53,7 @@ class DesktopQt : public Desktop {
   bool show_save(CommonDialog& dialog) override;
   bool show_font(FontDialog& dialog) override;
   void show_modal(Form& form) override;
+  void process_events() override;
   ClientSize create_window(Form& document) override;
   void show_window(Form& document) override;
   void destroy_window(Form& document) override;

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -164,11 +165,26 @@ void lay_out_Selcol(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   layout->addLayout(button_row(desktop, dialog, s.Command1, s.Command2));
 }
 
+// A long work's window: it goes by itself.
+void lay_out_barprog(DesktopQt& desktop, FormDialog& dialog, Form& form) {
+  auto& b = dynamic_cast<barprogForm&>(form);
+  auto* layout = new QVBoxLayout(&dialog);
+  auto* label = new QLabel;
+  bind_label(desktop, label, b.Label1);
+  auto* bar = new QProgressBar;
+  bar->setMinimumWidth(bar->fontMetrics().averageCharWidth() * 50);
+  bind_control(desktop, bar, b.ProgressBar1, "Avanzamento");
+  follow(bar, b.ProgressBar1.Max, [bar, &b] { bar->setMaximum(static_cast<int>(b.ProgressBar1.Max)); });
+  follow(bar, b.ProgressBar1.Value, [bar, &b] { bar->setValue(static_cast<int>(b.ProgressBar1.Value)); });
+  layout->addWidget(label);
+  layout->addWidget(bar);
+}
+
 }  // namespace
 
 void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   static const std::map<std::string, void (*)(DesktopQt&, FormDialog&, Form&)> layouts{
-      {"zoomp", lay_out_zoomp}, {"impost", lay_out_impost}, {"Selcol", lay_out_Selcol}};
+      {"zoomp", lay_out_zoomp}, {"impost", lay_out_impost}, {"Selcol", lay_out_Selcol}, {"barprog", lay_out_barprog}};
   layouts.at(form.name)(desktop, dialog, form);
 }
 

@@ -11,6 +11,7 @@
 #include "windows/binding.h"
 #include "windows/canvas.h"
 #include "windows/desktop_qt.h"
+#include "windows/icona.h"
 #include "windows/text_entry.h"
 
 namespace trelvo {
@@ -32,6 +33,24 @@ QCursor point_cursor() {
   return QCursor(picture, 2, 2);
 }
 
+// The program's icon on a white sheet, so that it shows on a title bar of any colour.
+QIcon sheet_icon() {
+  QIcon icon;
+  for (const int side : {16, 32, 48}) {
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(picture.rect(), side / 8.0, side / 8.0);
+    icona("trelvo").paint(&painter, picture.rect());
+    painter.end();
+    icon.addPixmap(picture);
+  }
+  return icon;
+}
+
 }  // namespace
 
 DocumentWindow::DocumentWindow(DesktopQt& desktop, distipo& document, QWidget* parent)
@@ -40,6 +59,7 @@ DocumentWindow::DocumentWindow(DesktopQt& desktop, distipo& document, QWidget* p
                        {&document.Shape1, &document.Shape2, &document.Shape3}, body_);
   setWidget(body_);
   setAttribute(Qt::WA_DeleteOnClose, false);
+  setWindowIcon(sheet_icon());
   canvas_->setFocusPolicy(Qt::StrongFocus);
   canvas_->setAccessibleName("Disegno");
   make_strips();
@@ -103,6 +123,7 @@ void DocumentWindow::opened() {
   open_ = true;
   // What the window system still changes of the new window belongs to its opening.
   QTimer::singleShot(0, this, [this] {
+    if (released_) return;
     const int changed = document_.cmd.modificato;
     size_changed();
     document_.cmd.modificato = changed;

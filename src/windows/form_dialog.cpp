@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QTimer>
 
 #include "windows/binding.h"
 #include "windows/desktop_qt.h"
@@ -18,13 +19,17 @@ FormDialog::FormDialog(DesktopQt& desktop, Form& form, QWidget* parent)
 void FormDialog::run() {
   QEventLoop loop;
   const Listening ended = form_.Visible.listen([&] {
-    if (!form_.Visible) loop.quit();
+    if (form_.Visible) return;
+    hide();
+    loop.quit();
   });
   if (!form_.Visible) return;
   setModal(true);
   show();
+  QTimer::singleShot(0, this, [this] {
+    if (form_.Shown) desktop_.run(form_.Shown);
+  });
   loop.exec();
-  hide();
 }
 
 void FormDialog::closeEvent(QCloseEvent* event) {

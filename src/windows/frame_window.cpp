@@ -41,6 +41,8 @@ FrameWindow::FrameWindow(DesktopQt& desktop)
   setCentralWidget(body);
   area_->setAccessibleName("Disegni aperti");
   area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->viewport()->setMouseTracking(true);
   setWindowIcon(icona("trelvo"));
   resize(1200, 800);

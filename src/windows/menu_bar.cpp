@@ -1,6 +1,7 @@
 #include "windows/menu_bar.h"
 
 #include <QMenu>
+#include <QRegularExpression>
 
 #include "app/app.h"
 #include "windows/binding.h"
@@ -10,11 +11,10 @@ namespace trelvo {
 
 namespace {
 
-// The key that a caption names behind a run of blanks stands at the right, as a shortcut does.
+// A key that a caption names stands behind a run of blanks, which needs no such width here.
 QString title_of(const std::string& caption) {
-  QString title = qt(caption);
-  const auto gap = title.indexOf("   ");
-  return gap < 0 ? title : title.left(gap);
+  static const QRegularExpression blanks(" {3,}");
+  return qt(caption).replace(blanks, "  ");
 }
 
 QKeySequence shortcut_of(const MenuItem& item) {

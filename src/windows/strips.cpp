@@ -1,5 +1,6 @@
 #include "windows/strips.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -21,12 +22,28 @@ QFrame* make_strip(DesktopQt& desktop, Control& strip, const QString& name) {
   return frame;
 }
 
+// White and grey fields would glare in a dark theme: there they take its own colours for what is on and off.
+void follow_theme(TextEntry* entry, TextBox& box) {
+  follow(entry, box.BackColor, [entry, &box] {
+    const QPalette theme = QApplication::palette();
+    if (qGray(theme.color(QPalette::Window).rgb()) >= 128) return;
+    const auto role = box.BackColor == rgb(255, 255, 255) ? QPalette::Base : QPalette::Button;
+    QPalette palette = entry->palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+      palette.setColor(group, QPalette::Base, theme.color(QPalette::Active, role));
+      palette.setColor(group, QPalette::Text, theme.color(QPalette::Active, QPalette::Text));
+    }
+    entry->setPalette(palette);
+  });
+}
+
 void add_entry(DesktopQt& desktop, QGridLayout& layout, int row, Label& prompt, TextBox& box, const QString& name) {
   auto* label = new QLabel;
   label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 38);
   bind_label(desktop, label, prompt);
   auto* entry = new TextEntry(desktop, box);
   bind_text(desktop, entry, box, name);
+  follow_theme(entry, box);
   label->setBuddy(entry);
   layout.addWidget(label, row, 0);
   layout.addWidget(entry, row, 1);
@@ -92,6 +109,7 @@ QWidget* make_status_strip(DesktopQt& desktop, frmMainForm& form) {
     auto* entry = new TextEntry(desktop, *reading);
     entry->setFocusPolicy(Qt::NoFocus);
     bind_text(desktop, entry, *reading, QString("Lettura %1").arg(number++ - 2));
+    follow_theme(entry, *reading);
     layout->addWidget(entry, 1);
   }
   for (Label* label : {&form.Label8, &form.Label9, &form.Label10, &form.Label11}) {

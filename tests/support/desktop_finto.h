@@ -51,6 +51,7 @@ class FakeDesktop : public Desktop {
   void show_modal(Form& form) override {
     form.load();
     form.Visible = true;
+    if (form.Shown) run_event(*this, form.Shown);
     if (modal) modal(form);
     if (form.loaded()) form.unload();
   }
