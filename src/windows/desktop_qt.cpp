@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTime>
 
@@ -175,7 +176,10 @@ void DesktopQt::show_modal(Form& form) {
   forget(form);
 }
 
-void DesktopQt::process_events() { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+void DesktopQt::process_events() {
+  const QScopedValueRollback<bool> undisturbed(busy_, true);
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
 
 Desktop::ClientSize DesktopQt::create_window(Form& document) {
   return frame_->create_document(dynamic_cast<distipo&>(document));

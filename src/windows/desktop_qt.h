@@ -54,6 +54,8 @@ class DesktopQt : public Desktop {
   bool show_font(FontDialog& dialog) override;
   void show_modal(Form& form) override;
   void process_events() override;
+  // In the midst of an event that is not to be disturbed.
+  bool busy() const { return busy_; }
   ClientSize create_window(Form& document) override;
   void show_window(Form& document) override;
   void destroy_window(Form& document) override;
@@ -64,6 +66,7 @@ class DesktopQt : public Desktop {
   QWidget* parent() const;
 
   trelvobas* bas_ = nullptr;
+  bool busy_ = false;
   FontServiceQt fonts_;
   std::unique_ptr<FrameWindow> frame_;
   std::unordered_map<const Control*, QPointer<QWidget>> widgets_;

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMdiArea>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTimer>
@@ -113,6 +114,11 @@ void DocumentWindow::lay_strips() {
   vertical_->setGeometry(0, 0, strip_width, right_->height());
 }
 
+QSize DocumentWindow::sizeHint() const {
+  constexpr double part_of_area = 0.75;
+  return mdiArea() == nullptr ? QMdiSubWindow::sizeHint() : mdiArea()->viewport()->size() * part_of_area;
+}
+
 void DocumentWindow::refresh() { canvas_->refresh(); }
 
 Desktop::ClientSize DocumentWindow::client_size() const {
@@ -141,6 +147,10 @@ void DocumentWindow::release() {
 void DocumentWindow::size_changed() {
   lay_strips();
   if (!open_ || isMinimized()) return;
+  if (desktop_.busy()) {
+    QTimer::singleShot(0, this, [this] { size_changed(); });
+    return;
+  }
   const Desktop::ClientSize size = client_size();
   if (size.width == document_.surface.ScaleWidth && size.height == document_.surface.ScaleHeight) return;
   desktop_.run([&] { ridimensiona(document_, size.width, size.height); });

@@ -26,6 +26,9 @@ class DocumentWindow : public QMdiSubWindow {
   // The document is gone or going; nothing reaches it any more.
   void release();
 
+  // What a new or a cascaded window takes of the room there is.
+  QSize sizeHint() const override;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;

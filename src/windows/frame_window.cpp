@@ -22,8 +22,7 @@ namespace trelvo {
 
 namespace {
 
-// A new document takes three quarters of the room there is, each a step further down.
-constexpr double part_of_area = 0.75;
+// Each new document stands a step further down.
 constexpr int cascade_step = 26;
 constexpr int cascade_length = 8;
 
@@ -139,10 +138,8 @@ Desktop::ClientSize FrameWindow::create_document(distipo& document) {
   windows_[&document] = window;
   area_->addSubWindow(window);
   const int step = cascade_step * (placed_++ % cascade_length);
-  const QSize room = area_->viewport()->size();
   const bool maximised = area_->activeSubWindow() != nullptr && area_->activeSubWindow()->isMaximized();
-  window->setGeometry(step, step, static_cast<int>(room.width() * part_of_area),
-                      static_cast<int>(room.height() * part_of_area));
+  window->setGeometry(QRect(QPoint(step, step), window->sizeHint()));
   if (maximised) {
     window->showMaximized();
   } else {

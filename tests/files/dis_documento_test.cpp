@@ -1,11 +1,10 @@
 #include "files/dis_documento.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <limits>
 
+#include "full_disk.h"
 #include "model/tavolozza.h"
 #include "test_program.h"
 
@@ -16,27 +15,6 @@ namespace fs = std::filesystem;
 
 const std::string good_line = TestRecord("Linea", 0).p1(1, 2).p2(3, 4).byte;
 const std::string no_tag("\x03\0\x01\0", 4);
-
-// While it lives, no file can grow beyond this many bytes.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit limit = before_;
-    limit.rlim_cur = size;
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
-};
 
 struct LoadedProgram : TestProgram {
   explicit LoadedProgram(const std::string& bytes) {

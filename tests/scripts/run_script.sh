@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # run_script.sh TRELVO NAME.tsc: runs the program on a script in a fresh folder, without a window system, and compares
-# what it prints with NAME.out. A script whose first line is "# exit N" has to end with that status, and what it
-# complains of with NAME.err.
+# what it prints with NAME.out. The files of a folder NAME, if there is one, are there for it. A script whose first line
+# is "# exit N" has to end with that status, and what it complains of with NAME.err.
 set -u
 program=$1
 script=$(realpath "$2")
@@ -13,6 +13,7 @@ first=$(head -n 1 "$script")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 1
+if [ -d "$expected" ]; then cp "$expected"/* .; fi
 env -u DISPLAY -u WAYLAND_DISPLAY XDG_RUNTIME_DIR="$folder" LC_ALL=C.UTF-8 "$program" --folder "$folder" --script "$script" \
   >"$folder/.out" 2>"$folder/.err"
 got=$?
