@@ -110,7 +110,7 @@ class scrittore {
       svuota();
       if (testo.size() + margine > spazio()) {
         scarica_(std::as_bytes(std::span(testo)));
-        testo = {};
+        testo = "";
       }
     }
     metti(testo);
