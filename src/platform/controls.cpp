@@ -51,6 +51,50 @@ MenuItem::MenuItem(Form& owner, std::string control, int position, std::string c
   (parent != nullptr ? parent->items : form.menus).push_back(this);
 }
 
+CheckBox::CheckBox(Form& owner, std::string control, std::string caption)
+    : Control(owner, std::move(control)), Caption(*this, "Caption", std::move(caption)) {
+  Value.on_change([this] {
+    if (Click) Click();
+  });
+}
+
+ListBox::ListBox(Form& owner, std::string control, int position) : Control(owner, std::move(control), position) {
+  ListIndex.on_change([this] {
+    if (ListIndex >= 0 && Click) Click();
+  });
+}
+
+const std::string& ListBox::List(int row) const {
+  if (row < 0 || row >= ListCount) throw RuntimeError(error_bad_index);
+  return rows_[static_cast<std::size_t>(row)];
+}
+
+void ListBox::AddItem(std::string text, int at) {
+  const int place = at == no_index ? ListCount.get() : at;
+  if (place < 0 || place > ListCount) throw RuntimeError(error_bad_index);
+  rows_.insert(rows_.begin() + place, std::move(text));
+  rows_changed();
+}
+
+void ListBox::RemoveItem(int row) {
+  if (row < 0 || row >= ListCount) throw RuntimeError(error_bad_index);
+  rows_.erase(rows_.begin() + row);
+  if (ListIndex == row) ListIndex = -1;
+  rows_changed();
+}
+
+void ListBox::Clear() {
+  rows_.clear();
+  ListIndex = -1;
+  TopIndex = 0;
+  rows_changed();
+}
+
+void ListBox::rows_changed() {
+  ListCount = static_cast<int>(rows_.size());
+  version = version + 1;
+}
+
 void group_options(const std::vector<OptionButton*>& options, const std::function<void(std::size_t)>& chosen) {
   for (std::size_t i = 0; i < options.size(); ++i) {
     options[i]->Value.on_change([options, chosen, i] {

@@ -103,9 +103,21 @@ struct Label : Control {
       : Control(owner, std::move(control), position), Caption(*this, "Caption", std::move(caption)) {}
   Property<std::string> Caption;
   Property<Color> ForeColor{*this, "ForeColor", 0};
+  Property<Color> BackColor{*this, "BackColor", 0xFFFFFF};
   Property<std::string> ToolTipText{*this, "ToolTipText", ""};
   Property<float> Left{*this, "Left", 60};
   Property<float> Width{*this, "Width", 2400};
+};
+
+// A text in a font of its own. The size is in points.
+struct SampleLabel : Label {
+  using Label::Label;
+  Property<std::string> FontName{*this, "FontName", "Arial"};
+  Property<float> FontSize{*this, "FontSize", 8};
+  Property<bool> FontBold{*this, "FontBold", false};
+  Property<bool> FontItalic{*this, "FontItalic", false};
+  Property<bool> FontUnderline{*this, "FontUnderline", false};
+  Property<bool> FontStrikethru{*this, "FontStrikethru", false};
 };
 
 struct TextBox : Control {
@@ -143,6 +155,35 @@ struct OptionButton : Control {
 // Makes option buttons one group; `chosen` runs with the position of the one that is turned on.
 void group_options(const std::vector<OptionButton*>& options, const std::function<void(std::size_t)>& chosen);
 
+// Click runs whenever the value becomes another one.
+struct CheckBox : Control {
+  CheckBox(Form& owner, std::string control, std::string caption);
+  Property<std::string> Caption;
+  Property<int> Value{*this, "Value", 0};  // 1 for ticked
+};
+
+// Rows of text, counted from 0. Click runs whenever another row is chosen.
+struct ListBox : Control {
+  explicit ListBox(Form& owner, std::string control, int position = no_index);
+  Property<int> ListIndex{*this, "ListIndex", -1};  // -1 for none
+  Property<int> ListCount{*this, "ListCount", 0};
+  Property<int> TopIndex{*this, "TopIndex", 0};  // first row in view
+
+  // Error 9 for a row that is not there.
+  const std::string& List(int row) const;
+  // At the end, or before the row `at`. Error 9 for a place beyond the end.
+  void AddItem(std::string text, int at = no_index);
+  // A chosen row that goes away leaves none chosen. Error 9.
+  void RemoveItem(int row);
+  void Clear();
+  // Grows with each change of the rows.
+  Property<int> version{*this, "version", 0};
+
+ private:
+  void rows_changed();
+  std::vector<std::string> rows_;
+};
+
 struct Frame : Control {
   Frame(Form& owner, std::string control, std::string caption)
       : Control(owner, std::move(control)), Caption(*this, "Caption", std::move(caption)) {}
@@ -172,6 +213,7 @@ struct PictureBox : Control {
   Property<float> Width{*this, "Width", 0};
   Property<float> Height{*this, "Height", 0};
   Property<Color> BackColor{*this, "BackColor", 0xFFFFFF};
+  Property<std::string> ToolTipText{*this, "ToolTipText", ""};
 };
 
 constexpr int key_f6 = 117;

@@ -57,6 +57,11 @@ class Desktop : public PropertyOwner {
   virtual bool show_open(CommonDialog& dialog) = 0;
   virtual bool show_save(CommonDialog& dialog) = 0;
   virtual bool show_font(FontDialog& dialog) = 0;
+  virtual bool show_color(Color& color) = 0;
+
+  // Plain text; empty if the clipboard holds none.
+  virtual std::string clipboard_text() = 0;
+  virtual void set_clipboard_text(const std::string& text) = 0;
 
   // Loads the form, shows it, runs its Shown as an event, and returns when it is hidden or unloaded.
   virtual void show_modal(Form& form) = 0;

@@ -113,6 +113,13 @@ bool DesktopScript::show_font(FontDialog& dialog) {
   return true;
 }
 
+bool DesktopScript::show_color(Color& color) {
+  const std::optional<Color> answer = taken(answers.colors).value_or(std::nullopt);
+  output_.line("colordialog " + std::to_string(color) + " -> " + (answer ? std::to_string(*answer) : "cancel"));
+  if (answer) color = *answer;
+  return answer.has_value();
+}
+
 void DesktopScript::show_modal(Form& form) {
   form.load();
   output_.line("show " + form.name);

@@ -66,6 +66,9 @@ class DesktopScript : public Desktop {
   bool show_open(CommonDialog& dialog) override { return file_dialog("open", dialog); }
   bool show_save(CommonDialog& dialog) override { return file_dialog("save", dialog); }
   bool show_font(FontDialog& dialog) override;
+  bool show_color(Color& color) override;
+  std::string clipboard_text() override { return clipboard_; }
+  void set_clipboard_text(const std::string& text) override { clipboard_ = text; }
   void show_modal(Form& form) override;
 
   ClientSize create_window(Form& document) override;
@@ -80,6 +83,7 @@ class DesktopScript : public Desktop {
   Output& output_;
   FontService& fonts_;
   std::vector<Form*> dialogs_;
+  std::string clipboard_;
 };
 
 }  // namespace trelvo

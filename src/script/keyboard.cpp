@@ -93,8 +93,15 @@ void type_text(Session& session, TextBox& box, const std::string& text) {
 
 void click_control(Session& session, Control& control) {
   auto* option = dynamic_cast<OptionButton*>(&control);
-  if (option != nullptr || dynamic_cast<Button*>(&control) != nullptr) session.desktop.set_focus(&control);
+  auto* check = dynamic_cast<CheckBox*>(&control);
+  if (option != nullptr || check != nullptr || dynamic_cast<Button*>(&control) != nullptr) {
+    session.desktop.set_focus(&control);
+  }
   evento(session.bas, [&] {
+    if (check != nullptr) {
+      check->Value = check->Value == 0 ? 1 : 0;
+      return;
+    }
     if (option != nullptr) option->Value = true;
     if (control.Click) control.Click();
   });

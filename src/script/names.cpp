@@ -1,6 +1,7 @@
 #include "script/names.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "script/failure.h"
@@ -38,6 +39,16 @@ const RasterSurface* surface_named(const Session& session, std::string_view owne
     return &session.bas.impost.anteprima;
   }
   return nullptr;
+}
+
+// A row of a list, as in "TipoLinea.List1(0).List(2)".
+std::optional<std::string> shown_row(const Session& session, std::string_view owner, std::string_view property) {
+  if (!property.starts_with("List(")) return std::nullopt;
+  const auto* list = dynamic_cast<const ListBox*>(&control_named(session, owner));
+  const int row = indexed_name(property).index;
+  if (list == nullptr || row < 0 || row >= list->ListCount)
+    missing("row", std::string(owner) + "." + std::string(property));
+  return trelvo::quoted(list->List(row));
 }
 
 MenuItem* menu_of(const Form& form, std::string_view name, int index) {
@@ -85,6 +96,8 @@ FoundProperty property_named(const Session& session, std::string_view name) {
 
 std::string shown_property(const Session& session, std::string_view name) {
   const std::size_t point = std::min(name.rfind('.'), name.size());
+  if (const auto row = shown_row(session, name.substr(0, point), name.substr(std::min(point + 1, name.size()))))
+    return *row;
   if (const RasterSurface* surface = surface_named(session, name.substr(0, point))) {
     const auto shown = shown_surface_property(*surface, name.substr(std::min(point + 1, name.size())));
     if (shown) return *shown;

@@ -29,7 +29,7 @@ struct FoundProperty {
 };
 FoundProperty property_named(const Session& session, std::string_view name);
 
-// The value of a property as it is printed, those of its surface included.
+// The value of a property as it is printed, those of its surface and the rows of a list included.
 std::string shown_property(const Session& session, std::string_view name);
 
 // Looked for in the active document, then in the frame; "distipo.file" in that form only.

@@ -153,6 +153,10 @@ void set(Session& session, const Arguments& a) {
   if (const auto* bar = dynamic_cast<ScrollBar*>(found.control); is_value && bar != nullptr) {
     value = within_range(*bar, value);
   }
+  if (const auto* list = dynamic_cast<ListBox*>(found.control);
+      list != nullptr && &found.property == &list->ListIndex && (number < -1 || number >= list->ListCount)) {
+    throw ScriptFailure("no row " + value);
+  }
   evento(session.bas, [&] { found.property.assign(value); });
 }
 

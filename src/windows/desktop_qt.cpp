@@ -1,7 +1,7 @@
 #include "windows/desktop_qt.h"
 
 #include <QApplication>
-#include <QFontDialog>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -12,7 +12,9 @@
 #include "app/app.h"
 #include "platform/qt/regional_qt.h"
 #include "windows/binding.h"
+#include "windows/color_dialog.h"
 #include "windows/file_dialogs.h"
+#include "windows/font_dialog.h"
 #include "windows/form_dialog.h"
 #include "windows/frame_window.h"
 
@@ -149,23 +151,17 @@ bool DesktopQt::show_save(CommonDialog& dialog) {
 
 bool DesktopQt::show_font(FontDialog& dialog) {
   const Interlude interlude(*this);
-  QFont font(qt(dialog.FontName));
-  if (dialog.FontSize > 0) font.setPointSizeF(dialog.FontSize);
-  font.setBold(dialog.FontBold);
-  font.setItalic(dialog.FontItalic);
-  font.setUnderline(dialog.FontUnderline);
-  font.setStrikeOut(dialog.FontStrikethru);
-  bool confirmed = false;
-  font = QFontDialog::getFont(&confirmed, font, parent(), "Carattere");
-  if (!confirmed) return false;
-  dialog.FontName = font.family().toStdString();
-  dialog.FontSize = static_cast<float>(font.pointSizeF());
-  dialog.FontBold = font.bold();
-  dialog.FontItalic = font.italic();
-  dialog.FontUnderline = font.underline();
-  dialog.FontStrikethru = font.strikeOut();
-  return true;
+  return ask_font(parent(), dialog);
 }
+
+bool DesktopQt::show_color(Color& color) {
+  const Interlude interlude(*this);
+  return ask_color(parent(), color);
+}
+
+std::string DesktopQt::clipboard_text() { return QApplication::clipboard()->text().toStdString(); }
+
+void DesktopQt::set_clipboard_text(const std::string& text) { QApplication::clipboard()->setText(qt(text)); }
 
 void DesktopQt::show_modal(Form& form) {
   form.load();

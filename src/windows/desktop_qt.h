@@ -52,6 +52,9 @@ class DesktopQt : public Desktop {
   bool show_open(CommonDialog& dialog) override;
   bool show_save(CommonDialog& dialog) override;
   bool show_font(FontDialog& dialog) override;
+  bool show_color(Color& color) override;
+  std::string clipboard_text() override;
+  void set_clipboard_text(const std::string& text) override;
   void show_modal(Form& form) override;
   void process_events() override;
   // In the midst of an event that is not to be disturbed.

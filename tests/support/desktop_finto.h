@@ -48,6 +48,14 @@ class FakeDesktop : public Desktop {
   bool show_open(CommonDialog& dialog) override { return choose(dialog); }
   bool show_save(CommonDialog& dialog) override { return choose(dialog); }
   bool show_font(FontDialog& /*dialog*/) override { return false; }
+  bool show_color(Color& color) override {
+    if (colors.empty()) return false;
+    color = colors.front();
+    colors.pop_front();
+    return true;
+  }
+  std::string clipboard_text() override { return clipboard; }
+  void set_clipboard_text(const std::string& text) override { clipboard = text; }
   void show_modal(Form& form) override {
     form.load();
     form.Visible = true;
@@ -66,6 +74,8 @@ class FakeDesktop : public Desktop {
   float seconds = 36000;
   ClientSize client{15000, 9000};
   std::deque<int> answers;
+  std::deque<Color> colors;  // none left: cancelled
+  std::string clipboard;
   std::deque<std::string> files;  // an empty name cancels
   std::vector<std::string> messages;
   std::vector<int> errors;

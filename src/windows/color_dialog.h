@@ -1,0 +1,13 @@
+// The desktop's colour dialog.
+#pragma once
+
+#include "platform/graphics.h"
+
+class QWidget;
+
+namespace trelvo {
+
+// False if the user cancelled: the colour stays.
+bool ask_color(QWidget* parent, Color& color);
+
+}  // namespace trelvo
