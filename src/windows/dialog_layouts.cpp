@@ -1,6 +1,5 @@
 #include "windows/dialog_layouts.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -15,6 +14,7 @@
 #include "windows/binding.h"
 #include "windows/canvas.h"
 #include "windows/desktop_qt.h"
+#include "windows/dialog_parts.h"
 #include "windows/form_dialog.h"
 #include "windows/text_entry.h"
 
@@ -23,40 +23,6 @@ namespace trelvo {
 namespace {
 
 constexpr int twips_per_pixel = 15;
-
-QPushButton* make_button(DesktopQt& desktop, Button& button, bool is_default = false) {
-  auto* widget = new QPushButton;
-  widget->setAutoDefault(is_default);
-  widget->setDefault(is_default);
-  bind_button(desktop, widget, button);
-  return widget;
-}
-
-QRadioButton* make_option(DesktopQt& desktop, OptionButton& option) {
-  auto* widget = new QRadioButton;
-  bind_option(desktop, widget, option);
-  return widget;
-}
-
-TextEntry* make_entry(DesktopQt& desktop, TextBox& box, const QString& name, int characters) {
-  auto* widget = new TextEntry(desktop, box);
-  bind_text(desktop, widget, box, name);
-  widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * (characters + 3));
-  // What is hidden keeps its place, so that nothing jumps.
-  QSizePolicy policy = widget->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget->setSizePolicy(policy);
-  return widget;
-}
-
-QLayout* button_row(DesktopQt& desktop, FormDialog& dialog, Button& confirm, Button& leave) {
-  auto* row = new QHBoxLayout;
-  row->addStretch(1);
-  row->addWidget(make_button(desktop, confirm, true));
-  row->addWidget(make_button(desktop, leave));
-  dialog.set_leave_button(leave);
-  return row;
-}
 
 void lay_out_zoomp(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto& z = dynamic_cast<zoompForm&>(form);
@@ -78,12 +44,6 @@ void lay_out_zoomp(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   layout->addLayout(button_row(desktop, dialog, z.Command1, z.Command2));
   entry->setFocus();
   entry->selectAll();
-}
-
-QGroupBox* make_group(DesktopQt& desktop, Frame& frame) {
-  auto* group = new QGroupBox;
-  bind_frame(desktop, group, frame);
-  return group;
 }
 
 QGroupBox* switch_group(DesktopQt& desktop, Frame& frame, OptionButton& on, OptionButton& off, TextBox& pitch) {
