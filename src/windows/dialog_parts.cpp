@@ -11,7 +11,7 @@
 
 namespace trelvo {
 
-QPushButton* make_button(DesktopQt& desktop, Button& button, bool is_default = false) {
+QPushButton* make_button(DesktopQt& desktop, Button& button, bool is_default) {
   auto* widget = new QPushButton;
   widget->setAutoDefault(is_default);
   widget->setDefault(is_default);
