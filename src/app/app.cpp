@@ -15,6 +15,7 @@
 #include "edit/edit.h"
 #include "files/ini.h"
 #include "files/txt_documento.h"
+#include "properties/proprieta.h"
 #include "view/croce.h"
 
 namespace trelvo {
@@ -62,6 +63,7 @@ void prepara(trelvobas& bas) {
   prepara_zoomp(bas);
   prepara_impost(bas);
   prepara_barprog(bas);
+  prepara_proprieta(bas);
 }
 
 void Main(trelvobas& bas, const std::string& riga) {

@@ -97,11 +97,8 @@ void Toolbar1_ButtonClick(trelvobas& bas, int strumenti, int pulsante) {
   }
 }
 
-bool pulsante_attivo(const trelvobas& bas, int strumenti, int pulsante) {
-  if (strumenti == strumenti_file) return pulsante != pulsante_stampante && pulsante != pulsante_stampa;
-  if (strumenti == strumenti_zoom) return true;
-  const auto& pulsanti = bas.frmMain.Toolbar1(strumenti).buttons;
-  return trova_comando(bas, pulsanti[static_cast<std::size_t>(pulsante) - 1].tip) != nullptr;
+bool pulsante_attivo(const trelvobas& /*bas*/, int strumenti, int pulsante) {
+  return strumenti != strumenti_file || (pulsante != pulsante_stampante && pulsante != pulsante_stampa);
 }
 
 void Label11_Click(trelvobas& bas) {

@@ -10,6 +10,9 @@
 #include "files/bmp_comando.h"
 #include "files/dxf_comando.h"
 #include "platform/numbers.h"
+#include "properties/gesttesto.h"
+#include "properties/tipolinea.h"
+#include "properties/tiposuperficie.h"
 
 namespace trelvo {
 
@@ -31,8 +34,7 @@ void visual_Click(distipo& doc) {
 
 void mnuedita_Click(distipo& doc) {
   for (int i = 3; i <= 9; ++i) {
-    MenuItem& voce = doc.modifica(i);
-    voce.Enabled = !disegno_vuoto(doc) && trova_comando(doc.bas, voce.Caption) != nullptr;
+    doc.modifica(i).Enabled = !disegno_vuoto(doc);
   }
   doc.modifica(1).Enabled = doc.cmd.comando() != "Stira" && doc.cmd.passo == 0;
 }
@@ -109,15 +111,16 @@ void collega(distipo& doc) {
   doc.mnuedita.Click = [&doc] { mnuedita_Click(doc); };
   collega_voci(doc, doc.opfile, opfile_Click);
   for (const int indice : {voce_stampante, voce_stampa}) doc.opfile(indice).Click = nullptr;
-  for (const auto& [indice, voce] : doc.opdis.items()) {
-    if (trova_comando(doc.bas, voce->Caption) != nullptr) voce->Click = [&doc, i = indice] { opdis_Click(doc, i); };
-  }
+  collega_voci(doc, doc.opdis, opdis_Click);
   collega_voci(doc, doc.selezoom, scegli_zoom);
   collega_voci(doc, doc.barre, barre_Click);
   collega_voci(doc, doc.modifica, modifica_Click);
   collega_voci(doc, doc.impo, impo_Click);
   collega_voci(doc, doc.aiutdis, impaiut);
   collega_voci(doc, doc.filtri, impfiltri);
+  doc.mnutipolinea->Click = [&doc] { mnutipolinea_Click(doc); };
+  doc.mnutiposup->Click = [&doc] { mnutiposup_Click(doc); };
+  doc.mnutipotesto->Click = [&doc] { mnutipotesto_Click(doc); };
   doc.mnucreabmp.Click = [&doc] { creabmp(doc); };
   doc.mnudxf.Click = [&doc] { crea_dxf(doc); };
   doc.mnudistanza.Click = [&doc] { mnudistanza_Click(doc); };

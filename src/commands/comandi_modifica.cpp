@@ -23,6 +23,7 @@ constexpr int passo_seconda = 1;
 constexpr int passo_base = 2;
 constexpr int passo_fine = 3;
 
+const char* const nome_proprieta = "Proprietà Oggetto";
 const char* const punto_base = "Punto Base:";
 const char* const asse_primo = "Primo Punto - Asse:";
 const char* const asse_secondo = "Secondo Punto - Asse:";
@@ -92,7 +93,7 @@ void selezione_per_punto(distipo& doc, double a, double b) {
   scrivitrov(doc);
 }
 
-void clic_cancella(distipo& doc, float& X, float& Y) {
+void clic_selezione(distipo& doc, float& X, float& Y) {
   const double a = X / doc.vista.rapscala;
   const double b = Y / doc.vista.rapscala;
   if (per_oggetto(doc)) {
@@ -181,10 +182,11 @@ void esegui_modifica(distipo& doc, int& n) {
   statocomandi& cmd = doc.cmd;
   const std::string nome = cmd.comandi[static_cast<std::size_t>(n)].tipo();
   doc.surface.set_AutoRedraw(true);
+  const bool proprieta = nome == nome_proprieta;
   int contatore = 0;
   {
-    const PointerGuard attesa(doc.bas.desktop, nome == "Proprietà Oggetto" ? pointer_default : pointer_hourglass);
-    for (const auto& modifica : doc.bas.modifiche) modifica(doc, n, contatore);
+    const PointerGuard attesa(doc.bas.desktop, proprieta ? pointer_default : pointer_hourglass);
+    for (const auto& modifica : proprieta ? doc.bas.proprieta : doc.bas.modifiche) modifica(doc, n, contatore);
   }
   if (nome == "Stira") cmd.modoselez = modo_scelto(doc);
   if (contatore == 0) {
@@ -234,8 +236,9 @@ void riprendi_selezione(distipo& doc, int indice) {
   doc.cmd.ntrovati = conta_selezionati(doc);
 }
 
-void riprendi_cancella(distipo& doc) {
-  riprendi_selezione(doc, 3);
+template <int Indice>
+void riprendi_senza_punti(distipo& doc) {
+  riprendi_selezione(doc, Indice);
   scrivitrov(doc);
   doc.surface.set_AutoRedraw(false);
 }
@@ -294,21 +297,25 @@ comando riga(const char* nome, const char* conferma, const char* base) {
   return c;
 }
 
-comando riga_cancella() {
-  comando c = riga("Cancella", "Conferma Cancella", punto_base);
-  c.secondoprompt = secondo_cancella;
-  c.clic = clic_cancella;
+// A command that acts on the confirmed selection, with no points.
+comando riga_senza_punti(const char* nome, const char* conferma) {
+  comando c = riga(nome, conferma, punto_base);
+  c.clic = clic_selezione;
   c.destro_esegue = destro_non_alla_base;
   c.destro_conferma = nullptr;
   c.anteprima = anteprima_selezione;
   c.aggancio = nullptr;
-  c.riprendi_passo = riprendi_cancella;
   return c;
 }
 
 }  // namespace
 
 std::vector<comando> comandi_modifica() {
+  comando cancella = riga_senza_punti("Cancella", "Conferma Cancella");
+  cancella.secondoprompt = secondo_cancella;
+  cancella.riprendi_passo = riprendi_senza_punti<3>;
+  comando proprieta = riga_senza_punti(nome_proprieta, "Conferma Selezione");
+  proprieta.riprendi_passo = riprendi_senza_punti<9>;
   comando sposta = riga("Sposta", "Conferma Oggetti da Spostare", punto_base);
   sposta.riprendi_passo = riprendi_modifica<4>;
   comando copia = riga("Copia", "Conferma Oggetti da Copiare", punto_base);
@@ -322,7 +329,7 @@ std::vector<comando> comandi_modifica() {
   stira.destro_conferma = conferma_stira;
   stira.aggancio = aggancio_stira;
   stira.riprendi_passo = riprendi_modifica<8>;
-  return {riga_cancella(), sposta, copia, ruota, specchio, stira};
+  return {cancella, sposta, copia, ruota, specchio, stira, proprieta};
 }
 
 }  // namespace trelvo

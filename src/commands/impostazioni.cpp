@@ -9,6 +9,9 @@ namespace trelvo {
 
 namespace {
 
+constexpr int colore_testo_iniziale = 0;
+constexpr int colore_opaco_iniziale = 15;
+
 constexpr int voce_generali = 1;
 constexpr int voce_step = 4;
 constexpr int voce_griglia = 5;
@@ -108,6 +111,13 @@ int filtro_successivo(int valore) {
     default:
       return 0;
   }
+}
+
+void inizializ_varTesto(distipo& doc) {
+  doc.testi = predefinititesto{};
+  doc.testi.coloretestodef = tavolozza(colore_testo_iniziale);
+  doc.testi.coloreopacotestodef = tavolozza(colore_opaco_iniziale);
+  doc.imp.bordotesto = 0;
 }
 
 }  // namespace trelvo

@@ -13,6 +13,9 @@ void impfiltri(distipo& doc, int valore);
 // The filter after this one, in the order of the menu.
 int filtro_successivo(int valore);
 
+// Text defaults of the document; no frame round texts.
+void inizializ_varTesto(distipo& doc);
+
 // Colours and tool tips of the frame's switches, from the document's state.
 void mostra_interruttori(distipo& doc);
 

@@ -3,7 +3,11 @@
 namespace trelvo {
 
 trelvobas::trelvobas(Desktop& scrivania, const std::string& cartella)
-    : desktop(scrivania), fileini(cartella), impost(scrivania.fonts()) {
+    : desktop(scrivania),
+      fileini(cartella),
+      impost(scrivania.fonts()),
+      TipoLinea(scrivania.fonts()),
+      TipoSuperficie(scrivania.fonts()) {
   if (fileini.empty() || fileini.back() != '/') fileini += '/';
   fileini += "Trelvo.ini";
 }

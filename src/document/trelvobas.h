@@ -8,10 +8,14 @@
 #include <vector>
 
 #include "document/barprog.h"
+#include "document/coordvert.h"
 #include "document/distipo.h"
 #include "document/frmMain.h"
+#include "document/gesttesto.h"
 #include "document/impost.h"
 #include "document/selcol.h"
+#include "document/tipolinea.h"
+#include "document/tiposuperficie.h"
 #include "document/zoomp.h"
 #include "model/cursori.h"
 #include "model/predefiniti.h"
@@ -49,12 +53,18 @@ struct trelvobas {
   impostForm impost;
   SelcolForm Selcol;
   barprogForm barprog;
+  TipoLineaForm TipoLinea;
+  TipoSuperficieForm TipoSuperficie;
+  GesttestoForm Gesttesto;
+  CoordVertForm CoordVert;
 
   // Given by the floors above at start: writes the settings of a document to `fileini`.
   std::function<void(distipo&)> salvafileini_dis;
   // The edit operations of the command at level n, a class each, in the order in which they run; `contatore` tells
   // whether one of them met a selected object.
   std::vector<std::function<void(distipo&, int n, int& contatore)>> modifiche;
+  // The same for "Proprietà Oggetto": each shows the dialog of its class.
+  std::vector<std::function<void(distipo&, int n, int& contatore)>> proprieta;
   // Closed windows, whose own handlers may still be running, until the event ends.
   std::vector<std::unique_ptr<distipo>> chiusi;
   int eventi = 0;  // depth of the running events

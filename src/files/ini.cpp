@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "commands/impostazioni.h"
 #include "document/trelvobas.h"
 #include "files/accesso_file.h"
 #include "files/valori.h"
@@ -16,8 +17,6 @@ namespace {
 constexpr std::size_t lunghezza_slot = 128;
 constexpr std::size_t numero_slot = 48;
 constexpr std::size_t lunghezza_ini = numero_slot * lunghezza_slot;
-constexpr int colore_testo_iniziale = 0;
-constexpr int colore_opaco_iniziale = 15;
 
 // The slots in their order, each by the kind of its value.
 template <class Documento, class Slot>
@@ -156,13 +155,6 @@ void imposta_iniziali(distipo& doc) {
 }
 
 }  // namespace
-
-void inizializ_varTesto(distipo& doc) {
-  doc.testi = predefinititesto{};
-  doc.testi.coloretestodef = tavolozza(colore_testo_iniziale);
-  doc.testi.coloreopacotestodef = tavolozza(colore_opaco_iniziale);
-  doc.imp.bordotesto = 0;
-}
 
 void inizializini(distipo& doc) {
   imposta_iniziali(doc);

@@ -15,7 +15,4 @@ void salvafileini_dis(distipo& doc);
 // All defaults, and writes them.
 void inizializini(distipo& doc);
 
-// Text defaults of the document; no frame round texts.
-void inizializ_varTesto(distipo& doc);
-
 }  // namespace trelvo

@@ -37,7 +37,10 @@ void set_tracing(Session& session, bool on) {
   for (const auto& doc : session.bas.finestredocumenti) {
     if (doc) watch_document(session, *doc);
   }
-  watch_calls(session, session.bas.impost.anteprima, [] { return std::string("impost.Picture1"); });
+  trelvobas& bas = session.bas;
+  watch_calls(session, bas.impost.anteprima, [] { return std::string("impost.Picture1"); });
+  watch_calls(session, bas.TipoLinea.anteprima, [] { return std::string("TipoLinea.Picture4"); });
+  watch_calls(session, bas.TipoSuperficie.anteprima, [] { return std::string("TipoSuperficie.Picture2"); });
 }
 
 }  // namespace trelvo

@@ -1,6 +1,7 @@
 #include "windows/binding.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -134,6 +135,41 @@ void bind_option(DesktopQt& desktop, QAbstractButton* widget, OptionButton& opti
 void bind_frame(DesktopQt& desktop, QGroupBox* widget, Frame& frame) {
   bind_control(desktop, widget, frame, qt(frame.Caption));
   follow(widget, frame.Caption, [widget, &frame] { widget->setTitle(qt(frame.Caption)); });
+}
+
+void bind_check(DesktopQt& desktop, QCheckBox* widget, CheckBox& box, const QString& accessible_name) {
+  bind_control(desktop, widget, box, accessible_name);
+  follow(widget, box.Caption, [widget, &box] { widget->setText(qt(box.Caption)); });
+  follow(widget, box.Value, [widget, &box] { widget->setChecked(box.Value != 0); });
+  QObject::connect(widget, &QCheckBox::clicked, widget,
+                   [&desktop, &box](bool checked) { desktop.run([&] { box.Value = checked ? 1 : 0; }); });
+}
+
+void bind_sample(DesktopQt& desktop, QLabel* widget, SampleLabel& sample) {
+  bind_label(desktop, widget, sample);
+  widget->setAutoFillBackground(true);
+  const auto show_colors = [widget, &sample] {
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Window, color_of(sample.BackColor));
+    palette.setColor(QPalette::WindowText, color_of(sample.ForeColor));
+    widget->setPalette(palette);
+  };
+  follow(widget, sample.BackColor, show_colors);
+  follow(widget, sample.ForeColor, show_colors);
+  const auto show_font = [widget, &sample] {
+    QFont font(qt(sample.FontName));
+    if (sample.FontSize > 0) font.setPointSizeF(sample.FontSize);
+    font.setBold(sample.FontBold);
+    font.setItalic(sample.FontItalic);
+    font.setUnderline(sample.FontUnderline);
+    font.setStrikeOut(sample.FontStrikethru);
+    widget->setFont(font);
+  };
+  for (PropertyBase* property :
+       std::initializer_list<PropertyBase*>{&sample.FontName, &sample.FontSize, &sample.FontBold, &sample.FontItalic,
+                                            &sample.FontUnderline, &sample.FontStrikethru}) {
+    follow(widget, *property, show_font);
+  }
 }
 
 void bind_scroll(DesktopQt& desktop, QScrollBar* widget, ScrollBar& bar, const QString& accessible_name) {

@@ -11,9 +11,11 @@
 #include "platform/controls.h"
 
 class QAbstractButton;
+class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QListView;
 class QScrollBar;
 class QWidget;
 
@@ -35,8 +37,13 @@ void bind_label(DesktopQt& desktop, QLabel* widget, Label& label);
 void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QString& accessible_name);
 void bind_button(DesktopQt& desktop, QAbstractButton* widget, Button& button);
 void bind_option(DesktopQt& desktop, QAbstractButton* widget, OptionButton& option);
+void bind_check(DesktopQt& desktop, QCheckBox* widget, CheckBox& box, const QString& accessible_name);
 void bind_frame(DesktopQt& desktop, QGroupBox* widget, Frame& frame);
 void bind_scroll(DesktopQt& desktop, QScrollBar* widget, ScrollBar& bar, const QString& accessible_name);
+
+// The rows, the chosen one, and the first in view, both ways.
+void bind_list(DesktopQt& desktop, QListView* widget, ListBox& list, const QString& accessible_name);
+void bind_sample(DesktopQt& desktop, QLabel* widget, SampleLabel& sample);
 
 // A box with its palette colour behind the text, and the text readable on it.
 void show_back_color(QWidget* widget, Color color);

@@ -11,4 +11,9 @@ class FormDialog;
 // By the form's name.
 void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form);
 
+void lay_out_TipoLinea(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_TipoSuperficie(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_Gesttesto(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_CoordVert(DesktopQt& desktop, FormDialog& dialog, Form& form);
+
 }  // namespace trelvo
