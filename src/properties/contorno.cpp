@@ -86,7 +86,7 @@ void mostra_valore(Label& label, const std::optional<std::int32_t>& valore) {
   label.Visible = !valore;
 }
 
-void mostra_contorno(const contorno& c, std::optional<std::int32_t> tratto, std::optional<std::string> spessore,
+void mostra_contorno(const contorno& c, std::optional<std::int32_t> tratto, const std::optional<std::string>& spessore,
                      std::optional<Color> colore) {
   if (tratto) {
     scegli_tratto(c, indice_di_tratto(*tratto));

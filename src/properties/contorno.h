@@ -31,7 +31,7 @@ void collega_colore(trelvobas& bas, Button& pulsante, Label& colore, const std::
 void scegli_tratto(const contorno& c, int indice);
 
 // Shows the values of an outline; those that differ are no values.
-void mostra_contorno(const contorno& c, std::optional<std::int32_t> tratto, std::optional<std::string> spessore,
+void mostra_contorno(const contorno& c, std::optional<std::int32_t> tratto, const std::optional<std::string>& spessore,
                      std::optional<Color> colore);
 
 // The label as a value, hidden; or "Vari", in view.

@@ -157,7 +157,7 @@ void prepara_CoordVert(trelvobas& bas) {
   f.Command2.Click = [&f] { f.unload(); };
 }
 
-void prepara_elenco(trelvobas& bas, elencoform& e, std::function<void()> dopo) {
+void prepara_elenco(trelvobas& bas, elencoform& e, const std::function<void()>& dopo) {
   for (int i = 0; i <= 1; ++i) {
     e.List1(i).Click = [&e, i] { List1_Click(e, i); };
     e.List1(i).TopIndex.on_change([&e, i] { e.List1(1 - i).TopIndex = e.List1(i).TopIndex; });

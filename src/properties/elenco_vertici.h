@@ -15,7 +15,7 @@ namespace trelvo {
 void prepara_CoordVert(trelvobas& bas);
 
 // Links the lists and the buttons of a dialog. `dopo` runs after each change of the lists.
-void prepara_elenco(trelvobas& bas, elencoform& elenco, std::function<void()> dopo);
+void prepara_elenco(trelvobas& bas, elencoform& elenco, const std::function<void()>& dopo);
 
 // Three decimals, in ten characters.
 void riempi_elenco(const trelvobas& bas, elencoform& elenco, std::span<const vertice> vertici);

@@ -13,12 +13,12 @@ namespace trelvo {
 
 namespace {
 
-const char* const una_linea = "Proprietà Linea Selezionata";
-const char* const molte_linee = "Proprietà Linee Selezionate";
-const char* const un_arco = "Proprietà Arco Selezionato";
-const char* const molti_archi = "Proprietà Archi Selezionati";
-const char* const una_polilinea = "Proprietà PoliLinea Selezionata";
-const char* const molte_polilinee = "Proprietà PoliLinee Selezionate";
+constexpr const char* una_linea = "Proprietà Linea Selezionata";
+constexpr const char* molte_linee = "Proprietà Linee Selezionate";
+constexpr const char* un_arco = "Proprietà Arco Selezionato";
+constexpr const char* molti_archi = "Proprietà Archi Selezionati";
+constexpr const char* una_polilinea = "Proprietà PoliLinea Selezionata";
+constexpr const char* molte_polilinee = "Proprietà PoliLinee Selezionate";
 
 constexpr int larghezza_massima = 100;  // of the preview's line
 

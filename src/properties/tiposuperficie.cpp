@@ -14,12 +14,12 @@ namespace trelvo {
 
 namespace {
 
-const char* const una_superficie = "Proprietà Superficie Selezionata";
-const char* const molte_superfici = "Proprietà Superfici Selezionate";
-const char* const un_rettangolo = "Proprietà Rettangolo Selezionato";
-const char* const molti_rettangoli = "Proprietà Rettangoli Selezionati";
-const char* const un_cerchio = "Proprietà Cerchio Selezionato";
-const char* const molti_cerchi = "Proprietà Cerchi Selezionati";
+constexpr const char* una_superficie = "Proprietà Superficie Selezionata";
+constexpr const char* molte_superfici = "Proprietà Superfici Selezionate";
+constexpr const char* un_rettangolo = "Proprietà Rettangolo Selezionato";
+constexpr const char* molti_rettangoli = "Proprietà Rettangoli Selezionati";
+constexpr const char* un_cerchio = "Proprietà Cerchio Selezionato";
+constexpr const char* molti_cerchi = "Proprietà Cerchi Selezionati";
 
 struct modo {
   const char* titolo;

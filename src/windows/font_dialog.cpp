@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QPushButton>
@@ -24,10 +25,22 @@ QFont font_of(const FontDialog& dialog) {
   return font;
 }
 
-// A font that the system lacks is shown as another; it keeps its name unless the user takes a different one.
-void take_font(const QFont& chosen, const QString& stand_in, FontDialog& dialog) {
-  if (chosen.family() != stand_in) dialog.FontName = chosen.family().toStdString();
-  dialog.FontSize = static_cast<float>(chosen.pointSizeF());
+// The dialog finds a style by its name alone: without one it would start from another style than asked.
+void name_style(QFont& font) {
+  for (const QString& style : QFontDatabase::styles(font.family())) {
+    const bool same = QFontDatabase::bold(font.family(), style) == font.bold() &&
+                      QFontDatabase::italic(font.family(), style) == font.italic();
+    if (!same) continue;
+    font.setStyleName(style);
+    return;
+  }
+}
+
+// A font that the system lacks is shown as another, and a size as a whole number: both stay unless the user takes a
+// different one.
+void take_font(const QFont& chosen, const QFont& opened, FontDialog& dialog) {
+  if (chosen.family() != opened.family()) dialog.FontName = chosen.family().toStdString();
+  if (chosen.pointSizeF() != opened.pointSizeF()) dialog.FontSize = static_cast<float>(chosen.pointSizeF());
   dialog.FontBold = chosen.bold();
   dialog.FontItalic = chosen.italic();
   dialog.FontUnderline = chosen.underline();
@@ -46,14 +59,15 @@ bool ask_font(QWidget* parent, FontDialog& dialog) {
   QDialog box(parent);
   box.setWindowTitle("Carattere");
   const QFont asked = font_of(dialog);
-  const QString stand_in = QFontInfo(asked).family();
   QFont shown = asked;
-  shown.setFamily(stand_in);
+  shown.setFamily(QFontInfo(asked).family());
+  name_style(shown);
 
   auto* fonts = new QFontDialog;
   fonts->setWindowFlags(Qt::Widget);
   fonts->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
   fonts->setCurrentFont(shown);
+  const QFont opened = fonts->currentFont();
   auto* color_button = new QPushButton("C&olore...");
   color_button->setAutoDefault(false);
   Color color = dialog.color;
@@ -75,7 +89,7 @@ bool ask_font(QWidget* parent, FontDialog& dialog) {
   row->addWidget(buttons);
   layout->addLayout(row);
   if (box.exec() != QDialog::Accepted) return false;
-  take_font(fonts->currentFont(), stand_in, dialog);
+  take_font(fonts->currentFont(), opened, dialog);
   dialog.color = color;
   return true;
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Drives the real window: real_window.sh TRELVO. A line by mouse, one by typed coordinates, a zoom, a save by keyboard;
+# Drives the real window: real_window.sh TRELVO. A line by mouse, one by typed coordinates, a text, a zoom, a save by keyboard;
 # what was saved is read back by the scripted face.
 set -euo pipefail
 program=$(realpath "$1")
@@ -50,6 +50,12 @@ menu d 1
 xdotool type --delay 30 '4,4'; keys Return
 xdotool type --delay 30 '20,12.5'; keys Return
 keys Escape
+menu d 4                # Testo
+point 500 450
+focus_dialog() { xdotool windowfocus --sync "$(xdotool search --sync --onlyvisible --name "$1" | tail -n 1)"; sleep 0.2; }
+focus_dialog 'Inserisci Testo'
+xdotool type --delay 30 'Muro'; keys Return
+xdotool windowfocus --sync "$window"
 menu v 2                # Zoom Tutto
 menu f 4                # Salva con Nome
 sleep 0.5
@@ -71,3 +77,4 @@ rounded() {
 [ "$(rounded 2)" = 'Xi=4.0000 Yi=4.0000 Yf=12.5000 Xf=20.0000 ' ]
 # The clicks fell on the step.
 rounded 1 | grep -Eq '^Xi=[0-9]+\.0000 Yi=[0-9]+\.0000 Yf=[0-9]+\.0000 Xf=[0-9]+\.0000 $'
+grep -q '^testo 1 .*carattere_testo="Arial" .*stringa_testo="Muro *"' "$folder/read.txt"
