@@ -10,6 +10,7 @@
 #include "app/app.h"
 #include "platform/qt/command_line.h"
 #include "platform/qt/font_service_qt.h"
+#include "platform/qt/print_job_qt.h"
 #include "platform/qt/program_folder.h"
 #include "script/script.h"
 #include "windows/desktop_qt.h"
@@ -26,7 +27,10 @@ int run_script(int argc, char** argv, const trelvo::CommandLine& line) {
   });
   const QGuiApplication application(argc, argv);
   trelvo::FontServiceQt fonts;
-  return trelvo::esegui_script(line.script, trelvo::program_folder(line.folder), fonts);
+  const auto sheet = [](const trelvo::Paper& paper, double dots, const std::string& file) {
+    return trelvo::pdf_job(paper, dots, file, "Trelvo");
+  };
+  return trelvo::esegui_script(line.script, trelvo::program_folder(line.folder), fonts, sheet);
 }
 
 int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {

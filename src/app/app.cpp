@@ -15,6 +15,7 @@
 #include "edit/edit.h"
 #include "files/ini.h"
 #include "files/txt_documento.h"
+#include "printing/stampa.h"
 #include "properties/proprieta.h"
 #include "view/croce.h"
 
@@ -26,7 +27,6 @@ void collega_frame(trelvobas& bas) {
   frmMainForm& f = bas.frmMain;
   for (const auto& [indice, strumenti] : f.Toolbar1.items()) {
     strumenti->ButtonClick = [&bas, i = indice](int pulsante) { Toolbar1_ButtonClick(bas, i, pulsante); };
-    strumenti->Available = [&bas, i = indice](int pulsante) { return pulsante_attivo(bas, i, pulsante); };
   }
   for (const auto& [indice, voce] : f.gestfile.items()) {
     voce->Click = [&bas, i = indice] { gestfile_Click(bas, i); };
@@ -64,6 +64,7 @@ void prepara(trelvobas& bas) {
   prepara_impost(bas);
   prepara_barprog(bas);
   prepara_proprieta(bas);
+  prepara_stampa(bas);
 }
 
 void Main(trelvobas& bas, const std::string& riga) {

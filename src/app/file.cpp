@@ -7,6 +7,7 @@
 #include "commands/prompt.h"
 #include "files/comandi_file.h"
 #include "files/txt_documento.h"
+#include "printing/stampa.h"
 #include "view/mappa.h"
 #include "view/redraw.h"
 
@@ -82,6 +83,12 @@ void opfile_Click(distipo& doc, int Index) {
       break;
     case 5:
       chiudi(doc);
+      break;
+    case 7:
+      bas.desktop.show_printer();
+      break;
+    case 8:
+      apri_stampa(doc);
       break;
     default:
       break;

@@ -149,6 +149,7 @@ void Form_QueryUnload(distipo& doc, bool& Cancel) {
 
 void Form_Unload(distipo& doc) {
   trelvobas& bas = doc.bas;
+  if (bas.attivo() == &doc) bas.Geststamp.unload();
   if (bas.ndocumenti == 0) disattivabarre(bas);
   dimentica_nome(doc);
   bas.desktop.destroy_window(doc);

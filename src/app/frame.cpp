@@ -28,8 +28,6 @@ std::string senza_virgolette(std::string nome) {
 constexpr int strumenti_file = 1;
 constexpr int strumenti_disegna = 2;
 constexpr int strumenti_zoom = 3;
-constexpr int pulsante_stampante = 7;
-constexpr int pulsante_stampa = 8;
 constexpr int pulsante_bmp = 10;
 constexpr int pulsante_dxf = 11;
 constexpr int pulsante_distanza = 8;
@@ -81,7 +79,7 @@ void MDIForm_Load(trelvobas& bas, const std::string& riga) {
 
 void Toolbar1_ButtonClick(trelvobas& bas, int strumenti, int pulsante) {
   distipo* doc = bas.attivo();
-  if (doc == nullptr || !pulsante_attivo(bas, strumenti, pulsante)) return;
+  if (doc == nullptr) return;
   switch (strumenti) {
     case strumenti_file:
       pulsante_file(*doc, pulsante);
@@ -95,10 +93,6 @@ void Toolbar1_ButtonClick(trelvobas& bas, int strumenti, int pulsante) {
     default:
       pulsante_edita(*doc, pulsante);
   }
-}
-
-bool pulsante_attivo(const trelvobas& /*bas*/, int strumenti, int pulsante) {
-  return strumenti != strumenti_file || (pulsante != pulsante_stampante && pulsante != pulsante_stampa);
 }
 
 void Label11_Click(trelvobas& bas) {

@@ -9,8 +9,6 @@ namespace trelvo {
 
 void MDIForm_Load(trelvobas& bas, const std::string& riga);
 void Toolbar1_ButtonClick(trelvobas& bas, int strumenti, int pulsante);
-// Whether the program has what a button calls.
-bool pulsante_attivo(const trelvobas& bas, int strumenti, int pulsante);
 // Steps the object snap filter of the active document.
 void Label11_Click(trelvobas& bas);
 void nascondilinee_cursore(trelvobas& bas);

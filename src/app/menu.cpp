@@ -47,15 +47,6 @@ void collega_voci(distipo& doc, ControlArray<MenuItem>& menu, Azione azione) {
   }
 }
 
-// An item whose command the program does not have cannot be chosen.
-void spegni_senza_azione(MenuItem& voce) {
-  for (MenuItem* sotto : voce.items) spegni_senza_azione(*sotto);
-  if (voce.parent != nullptr && voce.items.empty() && voce.Caption.get() != "-" && !voce.Click) voce.Enabled = false;
-}
-
-constexpr int voce_stampante = 7;
-constexpr int voce_stampa = 8;
-
 void help_Click(distipo& doc) {
   doc.bas.desktop.message_box("Help non disponibile. In fase di completamento.", Buttons::ok);
 }
@@ -110,7 +101,6 @@ void collega(distipo& doc) {
   doc.visual.Click = [&doc] { visual_Click(doc); };
   doc.mnuedita.Click = [&doc] { mnuedita_Click(doc); };
   collega_voci(doc, doc.opfile, opfile_Click);
-  for (const int indice : {voce_stampante, voce_stampa}) doc.opfile(indice).Click = nullptr;
   collega_voci(doc, doc.opdis, opdis_Click);
   collega_voci(doc, doc.selezoom, scegli_zoom);
   collega_voci(doc, doc.barre, barre_Click);
@@ -128,7 +118,6 @@ void collega(distipo& doc) {
   doc.informa.Click = [&doc] { informa_Click(doc); };
   doc.HScroll1.Value.on_change([&doc] { HScroll1_Change(doc); });
   doc.VScroll1.Value.on_change([&doc] { VScroll1_Change(doc); });
-  for (MenuItem* menu : doc.menus) spegni_senza_azione(*menu);
 }
 
 }  // namespace trelvo

@@ -57,17 +57,6 @@ std::string secondo_cancella(const distipo& /*doc*/) { return "Secondo Punto: ";
 
 // ---- selection
 
-void primo_angolo(distipo& doc, double a, double b) {
-  reccomando& r = doc.cmd.corrente();
-  r.x1 = a;
-  r.y1 = b;
-  frmMainForm& f = doc.bas.frmMain;
-  f.Text1.Text = coppia(a, b);
-  accendi_Text2(doc);
-  f.Label2.Caption = "Secondo Punto:";
-  doc.cmd.passo = passo_seconda;
-}
-
 void seconda_selezione(distipo& doc, double a, double b) {
   reccomando& r = doc.cmd.corrente();
   r.x2 = a;
@@ -204,13 +193,6 @@ void esegui_modifica(distipo& doc, int& n) {
 
 // ---- preview
 
-void anteprima_selezione(distipo& doc, double x1, double y1, float& x2, float& y2) {
-  const banda b = tendi_banda(doc, x1, y1, x2, y2, false);
-  leggi_spostamento(doc, b);
-  leggi_coppia(doc, b);
-  finestra_selezione(doc, b, doc.cmd.modoselez == modo_finestra);
-}
-
 void anteprima_spostamento(distipo& doc, double x1, double y1, float& x2, float& y2) {
   const int passo = doc.cmd.passo;
   const banda b = tendi_banda(doc, x1, y1, x2, y2, per_oggetto(doc) || passo == passo_fine);
@@ -309,6 +291,24 @@ comando riga_senza_punti(const char* nome, const char* conferma) {
 }
 
 }  // namespace
+
+void primo_angolo(distipo& doc, double a, double b) {
+  reccomando& r = doc.cmd.corrente();
+  r.x1 = a;
+  r.y1 = b;
+  frmMainForm& f = doc.bas.frmMain;
+  f.Text1.Text = coppia(a, b);
+  accendi_Text2(doc);
+  f.Label2.Caption = "Secondo Punto:";
+  doc.cmd.passo = passo_seconda;
+}
+
+void anteprima_selezione(distipo& doc, double x1, double y1, float& x2, float& y2) {
+  const banda b = tendi_banda(doc, x1, y1, x2, y2, false);
+  leggi_spostamento(doc, b);
+  leggi_coppia(doc, b);
+  finestra_selezione(doc, b, doc.cmd.modoselez == modo_finestra);
+}
 
 std::vector<comando> comandi_modifica() {
   comando cancella = riga_senza_punti("Cancella", "Conferma Cancella");

@@ -94,8 +94,13 @@ struct predefinititesto {
   std::int32_t coloreopacotestodef = 0xFFFFFF;
 };
 
-// Sheet units per drawing unit, and the drawing point at the sheet's origin.
+// Sheet units per drawing unit, the drawing point at the sheet's origin, the sheet in centimetres and its picture in
+// millimetres.
 struct statostampa {
+  double larghcarta = 0;
+  double altezcarta = 0;
+  float larghanteprima = 0;
+  float altezanteprima = 0;
   double scalastampa = 1;
   double origstampax = 0;
   double origstampay = 0;

@@ -11,9 +11,11 @@
 #include "document/coordvert.h"
 #include "document/distipo.h"
 #include "document/frmMain.h"
+#include "document/geststamp.h"
 #include "document/gesttesto.h"
 #include "document/impost.h"
 #include "document/selcol.h"
+#include "document/spesslin.h"
 #include "document/tipolinea.h"
 #include "document/tiposuperficie.h"
 #include "document/zoomp.h"
@@ -57,6 +59,8 @@ struct trelvobas {
   TipoSuperficieForm TipoSuperficie;
   GesttestoForm Gesttesto;
   CoordVertForm CoordVert;
+  GeststampForm Geststamp;
+  SpesslinForm Spesslin;
 
   // Given by the floors above at start: writes the settings of a document to `fileini`.
   std::function<void(distipo&)> salvafileini_dis;

@@ -102,6 +102,7 @@ void importa(distipo& doc) {
 void prepara_barprog(trelvobas& bas) {
   barprogForm& b = bas.barprog;
   const auto Timer1_Timer = [&bas, &b] {
+    if (b.lavoro) b.lavoro();
     if (b.Label1.Caption.get() == da_leggere && bas.attivo() != nullptr) leggitxt(*bas.attivo());
   };
   b.Shown = [Timer1_Timer, &b] {
@@ -118,6 +119,8 @@ void prepara_barprog(trelvobas& bas) {
   b.QueryUnload = [](bool& cancel) { cancel = true; };
   b.Unloaded = [&b] {
     b.Label1.Caption = "";
+    b.Caption = barprogForm::titolo_importo;
+    b.lavoro = {};
     b.ProgressBar1.Value = 0;
   };
 }

@@ -18,7 +18,13 @@ Control* Form::find(std::string_view control, int index) const {
 void Form::load() {
   if (loaded_) return;
   loaded_ = true;
-  if (Load) Load();
+  if (!Load) return;
+  try {
+    Load();
+  } catch (...) {
+    loaded_ = false;
+    throw;
+  }
 }
 
 bool Form::close() {

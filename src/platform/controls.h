@@ -140,6 +140,7 @@ struct Button : Control {
   Button(Form& owner, std::string control, std::string caption)
       : Control(owner, std::move(control)), Caption(*this, "Caption", std::move(caption)) {}
   Property<std::string> Caption;
+  Property<std::string> ToolTipText{*this, "ToolTipText", ""};
 };
 
 // Exactly one of a group is on: whoever sets one true, its handlers of Value set the others false.
@@ -210,6 +211,8 @@ struct PictureBox : Control {
   using Control::Control;
   // Over a box that has a surface, in its logical units.
   std::function<void(float x, float y)> SurfaceMouseMove;
+  Property<float> Left{*this, "Left", 0};
+  Property<float> Top{*this, "Top", 0};
   Property<float> Width{*this, "Width", 0};
   Property<float> Height{*this, "Height", 0};
   Property<Color> BackColor{*this, "BackColor", 0xFFFFFF};
@@ -244,8 +247,6 @@ struct Toolbar : Control {
   const std::vector<ToolButton> buttons;  // button n is at n - 1
   Property<float> ButtonWidth{*this, "ButtonWidth", 390};
   std::function<void(int button)> ButtonClick;
-  // Buttons whose function is there; all of them if not set.
-  std::function<bool(int button)> Available;
 };
 
 }  // namespace trelvo

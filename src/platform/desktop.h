@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "platform/graphics.h"
 #include "platform/numbers.h"
+#include "platform/printer.h"
 
 namespace trelvo {
 
@@ -62,6 +63,10 @@ class Desktop : public PropertyOwner {
   // Plain text; empty if the clipboard holds none.
   virtual std::string clipboard_text() = 0;
   virtual void set_clipboard_text(const std::string& text) = 0;
+
+  // The printer in use. `show_printer` lets the user choose another, for the run; false if cancelled.
+  virtual Printer& printer() = 0;
+  virtual bool show_printer() = 0;
 
   // Loads the form, shows it, runs its Shown as an event, and returns when it is hidden or unloaded.
   virtual void show_modal(Form& form) = 0;

@@ -120,6 +120,11 @@ bool DesktopScript::show_color(Color& color) {
   return answer.has_value();
 }
 
+bool DesktopScript::show_printer() {
+  if (!paper) throw RuntimeError(error_printer);
+  return true;
+}
+
 void DesktopScript::show_modal(Form& form) {
   form.load();
   output_.line("show " + form.name);

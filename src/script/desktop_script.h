@@ -11,6 +11,7 @@
 #include "document/distipo.h"
 #include "platform/desktop.h"
 #include "script/output.h"
+#include "script/printer_script.h"
 
 namespace trelvo {
 
@@ -18,14 +19,6 @@ namespace trelvo {
 struct FontAnswer {
   FontDialog font;
   bool colored = false;
-};
-
-// Millimetres.
-struct Paper {
-  double width = 210;
-  double height = 297;
-  double sheet_width = 210;
-  double sheet_height = 297;
 };
 
 // Used up in order. No value stands for a cancelled dialog.
@@ -39,7 +32,8 @@ struct Answers {
 
 class DesktopScript : public Desktop {
  public:
-  DesktopScript(Output& output, FontService& fonts) : output_(output), fonts_(fonts) {}
+  DesktopScript(Output& output, FontService& fonts, PdfMaker make_pdf = {})
+      : output_(output), fonts_(fonts), printer_(*this, std::move(make_pdf)) {}
 
   Answers answers;
   // Seconds since midnight.
@@ -69,6 +63,9 @@ class DesktopScript : public Desktop {
   bool show_color(Color& color) override;
   std::string clipboard_text() override { return clipboard_; }
   void set_clipboard_text(const std::string& text) override { clipboard_ = text; }
+  Printer& printer() override { return printer_; }
+  // The script chooses the paper.
+  bool show_printer() override;
   void show_modal(Form& form) override;
 
   ClientSize create_window(Form& document) override;
@@ -84,6 +81,7 @@ class DesktopScript : public Desktop {
   FontService& fonts_;
   std::vector<Form*> dialogs_;
   std::string clipboard_;
+  PrinterScript printer_;
 };
 
 }  // namespace trelvo

@@ -38,6 +38,10 @@ const RasterSurface* surface_named(const Session& session, std::string_view owne
     form_named(session, "impost");
     return &session.bas.impost.anteprima;
   }
+  if (owner == "Geststamp.Picture1") {
+    form_named(session, "Geststamp");
+    return &session.bas.Geststamp.anteprima;
+  }
   return nullptr;
 }
 

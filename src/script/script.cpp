@@ -10,9 +10,9 @@
 namespace trelvo {
 
 int esegui_script(std::istream& righe, std::ostream& uscita, std::ostream& errori, const std::string& cartella,
-                  FontService& caratteri) {
+                  FontService& caratteri, const PdfMaker& fogli) {
   Output output(uscita);
-  DesktopScript desktop(output, caratteri);
+  DesktopScript desktop(output, caratteri, fogli);
   trelvobas bas(desktop, cartella);
   Session session{bas, desktop, output};
   Runner runner(session);
@@ -30,14 +30,15 @@ int esegui_script(std::istream& righe, std::ostream& uscita, std::ostream& error
   return 0;
 }
 
-int esegui_script(const std::string& percorso, const std::string& cartella, FontService& caratteri) {
-  if (percorso == "-") return esegui_script(std::cin, std::cout, std::cerr, cartella, caratteri);
+int esegui_script(const std::string& percorso, const std::string& cartella, FontService& caratteri,
+                  const PdfMaker& fogli) {
+  if (percorso == "-") return esegui_script(std::cin, std::cout, std::cerr, cartella, caratteri, fogli);
   std::ifstream file(percorso, std::ios::binary);
   if (!file) {
     std::cerr << "cannot open " << percorso << '\n';
     return 2;
   }
-  return esegui_script(file, std::cout, std::cerr, cartella, caratteri);
+  return esegui_script(file, std::cout, std::cerr, cartella, caratteri, fogli);
 }
 
 }  // namespace trelvo

@@ -38,8 +38,12 @@ void set_tracing(Session& session, bool on) {
     if (doc) watch_document(session, *doc);
   }
   trelvobas& bas = session.bas;
+  // The context of a sheet takes the trace over when it starts.
+  session.desktop.printer().trace =
+      on ? Trace([&session](const std::string& call) { session.output.line("Printer." + call); }) : Trace();
   watch_calls(session, bas.impost.anteprima, [] { return std::string("impost.Picture1"); });
   watch_calls(session, bas.TipoLinea.anteprima, [] { return std::string("TipoLinea.Picture4"); });
+  watch_calls(session, bas.Geststamp.anteprima, [] { return std::string("Geststamp.Picture1"); });
   watch_calls(session, bas.TipoSuperficie.anteprima, [] { return std::string("TipoSuperficie.Picture2"); });
 }
 

@@ -71,6 +71,10 @@ const DocumentVariable document_variables[] = {
     {"opacotestodef", [](const distipo& d) { return shown(d.testi.opacotestodef); }},
     {"coloreopacotestodef", [](const distipo& d) { return shown(d.testi.coloreopacotestodef); }},
 
+    {"larghcarta", [](const distipo& d) { return shown(d.stampa.larghcarta); }},
+    {"altezcarta", [](const distipo& d) { return shown(d.stampa.altezcarta); }},
+    {"larghanteprima", [](const distipo& d) { return shown(d.stampa.larghanteprima); }},
+    {"altezanteprima", [](const distipo& d) { return shown(d.stampa.altezanteprima); }},
     {"scalastampa", [](const distipo& d) { return shown(d.stampa.scalastampa); }},
     {"origstampax", [](const distipo& d) { return shown(d.stampa.origstampax); }},
     {"origstampay", [](const distipo& d) { return shown(d.stampa.origstampay); }},

@@ -17,6 +17,7 @@
 #include "windows/font_dialog.h"
 #include "windows/form_dialog.h"
 #include "windows/frame_window.h"
+#include "windows/printer_qt.h"
 
 namespace trelvo {
 
@@ -162,6 +163,21 @@ bool DesktopQt::show_color(Color& color) {
 std::string DesktopQt::clipboard_text() { return QApplication::clipboard()->text().toStdString(); }
 
 void DesktopQt::set_clipboard_text(const std::string& text) { QApplication::clipboard()->setText(qt(text)); }
+
+Printer& DesktopQt::printer() {
+  if (!printer_) {
+    printer_ = std::make_unique<PrinterQt>(
+        [this] { return parent(); },
+        [this] { return bas_->attivo() == nullptr ? std::string("Trelvo") : bas_->attivo()->Caption.get(); });
+  }
+  return *printer_;
+}
+
+bool DesktopQt::show_printer() {
+  const Interlude interlude(*this);
+  printer();
+  return printer_->choose();
+}
 
 void DesktopQt::show_modal(Form& form) {
   form.load();

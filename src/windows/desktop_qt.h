@@ -13,6 +13,7 @@
 namespace trelvo {
 
 class FrameWindow;
+class PrinterQt;
 
 class DesktopQt : public Desktop {
  public:
@@ -55,6 +56,8 @@ class DesktopQt : public Desktop {
   bool show_color(Color& color) override;
   std::string clipboard_text() override;
   void set_clipboard_text(const std::string& text) override;
+  Printer& printer() override;
+  bool show_printer() override;
   void show_modal(Form& form) override;
   void process_events() override;
   // In the midst of an event that is not to be disturbed.
@@ -71,6 +74,7 @@ class DesktopQt : public Desktop {
   trelvobas* bas_ = nullptr;
   bool busy_ = false;
   FontServiceQt fonts_;
+  std::unique_ptr<PrinterQt> printer_;  // looked for when first asked for
   std::unique_ptr<FrameWindow> frame_;
   std::unordered_map<const Control*, QPointer<QWidget>> widgets_;
 };

@@ -146,7 +146,8 @@ void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   static const std::map<std::string, void (*)(DesktopQt&, FormDialog&, Form&)> layouts{
       {"zoomp", lay_out_zoomp},         {"impost", lay_out_impost},       {"Selcol", lay_out_Selcol},
       {"barprog", lay_out_barprog},     {"TipoLinea", lay_out_TipoLinea}, {"TipoSuperficie", lay_out_TipoSuperficie},
-      {"Gesttesto", lay_out_Gesttesto}, {"CoordVert", lay_out_CoordVert}};
+      {"Geststamp", lay_out_Geststamp}, {"Spesslin", lay_out_Spesslin},   {"Gesttesto", lay_out_Gesttesto},
+      {"CoordVert", lay_out_CoordVert}};
   layouts.at(form.name)(desktop, dialog, form);
 }
 

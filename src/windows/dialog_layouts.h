@@ -14,6 +14,8 @@ void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_TipoLinea(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_TipoSuperficie(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_Gesttesto(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_Geststamp(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_Spesslin(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_CoordVert(DesktopQt& desktop, FormDialog& dialog, Form& form);
 
 }  // namespace trelvo

@@ -26,6 +26,9 @@ void FormDialog::run() {
   if (!form_.Visible) return;
   setModal(true);
   show();
+  // A form that stands aside gives the windows behind it free.
+  const Listening aside =
+      form_.WindowState.listen([&] { setVisible(form_.Visible && form_.WindowState != window_minimised); });
   QTimer::singleShot(0, this, [this] {
     if (form_.Shown) desktop_.run(form_.Shown);
   });

@@ -72,7 +72,6 @@ void FrameWindow::make_toolbars() {
         continue;
       }
       QAction* action = bar->addAction(icona(qt(button.icon)), qt(button.tip));
-      action->setEnabled(!toolbar->Available || toolbar->Available(number));
       QObject::connect(action, &QAction::triggered, bar, [this, pressed = toolbar.get(), number] {
         desktop_.run([&] { pressed->ButtonClick(number); });
       });

@@ -56,6 +56,8 @@ class FakeDesktop : public Desktop {
   }
   std::string clipboard_text() override { return clipboard; }
   void set_clipboard_text(const std::string& text) override { clipboard = text; }
+  Printer& printer() override { throw RuntimeError(error_printer); }
+  bool show_printer() override { return false; }
   void show_modal(Form& form) override {
     form.load();
     form.Visible = true;
