@@ -11,6 +11,7 @@
 #include "files/dxf_comando.h"
 #include "files/txt_documento.h"
 #include "files/txt_lettura.h"
+#include "memoria.h"
 #include "programma_bench.h"
 
 namespace trelvo {
@@ -88,7 +89,8 @@ std::string file_txt(const benchmark::State& stato) {
   return file_txt(static_cast<int>(stato.range(0)), stato.range(1) != 0, static_cast<cifre>(stato.range(2)));
 }
 
-void conta(benchmark::State& stato, const std::string& nome) {
+void conta(benchmark::State& stato, const std::string& nome, const picco_memoria& picco) {
+  stato.counters["picco_MiB"] = picco.mebibyte();
   stato.SetBytesProcessed(stato.iterations() * static_cast<std::int64_t>(std::filesystem::file_size(nome)));
   stato.SetItemsProcessed(stato.iterations() * stato.range(0));
 }
@@ -96,6 +98,7 @@ void conta(benchmark::State& stato, const std::string& nome) {
 // The file into objects.
 void leggi_txt(benchmark::State& stato) {
   const std::string nome = file_txt(stato);
+  const picco_memoria picco;
   for (auto _ : stato) {
     fileaperto file(nome, fileaperto::modo::lettura);
     righetxt righe([&](std::span<std::byte> dove) { return file.leggi(dove); });
@@ -105,19 +108,20 @@ void leggi_txt(benchmark::State& stato) {
     leggi_oggetti_txt(righe, {}, letto, dis);
     benchmark::DoNotOptimize(dis.collLinee.numero());
   }
-  conta(stato, nome);
+  conta(stato, nome, picco);
 }
 
 // The whole import, until the drawing is on the screen.
 void importa_txt(benchmark::State& stato) {
   const std::string nome = file_txt(stato);
+  const picco_memoria picco;
   for (auto _ : stato) {
     programma p(cartella_bench());
     p.doc().Caption = nome;
     leggitxt(p.doc());
     benchmark::DoNotOptimize(p.doc().surface.Image().pixels.data());
   }
-  conta(stato, nome);
+  conta(stato, nome, picco);
 }
 
 void esporta_dxf(benchmark::State& stato) {
@@ -125,12 +129,13 @@ void esporta_dxf(benchmark::State& stato) {
   p.doc().Caption = file_txt(stato);
   leggitxt(p.doc());
   const std::string nome = cartella_bench() + "/scambio.dxf";
+  const picco_memoria picco;
   for (auto _ : stato) {
     p.desktop.files = {nome};
     p.desktop.answers = {answer_yes};
     crea_dxf(p.doc());
   }
-  conta(stato, nome);
+  conta(stato, nome, picco);
 }
 
 void milione(benchmark::internal::Benchmark* b) {
