@@ -9,11 +9,10 @@ namespace trelvo {
 
 namespace {
 
-// The main pass. Objects that a step adds come after those that are passed through; references hold meanwhile.
+// The main pass. Objects that a step adds are not passed through; references hold meanwhile.
 template <class Classe, class Passo>
 void passa(collezione<Classe>& coll, int& contatore, Passo&& passo) {
-  const std::size_t numero = coll.numero();
-  for (std::size_t posizione = 1; posizione <= numero; ++posizione) {
+  for (const posizione_t posizione : coll.in_uso()) {
     Classe& o = coll(posizione);
     if (o.stato != stato_selezionato) continue;
     contatore = 1;

@@ -43,7 +43,8 @@ const auto& collezione_di(const disegno& dis) {
   return collezione_di<Classe>(const_cast<disegno&>(dis));
 }
 
-// Visits every object of the named classes, class by class in the order named: each walk says its own order.
+// Visits every object of the named classes, class by class in the order named: each walk says its own order. A walk
+// that writes nothing had better take the drawing as const (collezione.h).
 template <class... Classi, class Visita>
 void visita(disegno& dis, Visita&& azione) {
   (
@@ -58,6 +59,19 @@ void visita(const disegno& dis, Visita&& azione) {
   (
       [&] {
         for (const auto& oggetto : collezione_di<Classi>(dis)) azione(oggetto);
+      }(),
+      ...);
+}
+
+// The same for the selected ones alone, at the cost of these.
+template <class... Classi, class Disegno, class Visita>
+void visita_selezionati(Disegno& dis, Visita&& azione) {
+  (
+      [&] {
+        auto& coll = collezione_di<Classi>(dis);
+        for (const posizione_t posizione : coll.in_uso()) {
+          if (std::as_const(coll)(posizione).stato == stato_selezionato) azione(coll(posizione));
+        }
       }(),
       ...);
 }
