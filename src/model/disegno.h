@@ -16,6 +16,9 @@ struct disegno {
   collezione<testo> collTesti;
   collezione<Arco> collArchi;
   collezione<Cerchio> collCerchi;
+
+  // False makes every walk of the view a plain one over all objects, for comparison.
+  bool con_luoghi = true;
 };
 
 template <class Classe>

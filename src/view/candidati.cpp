@@ -9,18 +9,19 @@ namespace trelvo {
 
 namespace {
 
-// Beyond this part of a class a plain walk is quicker than one by positions.
+// Beyond this part of a class a plain walk is quicker than one by positions; a few of them are no matter.
 constexpr std::size_t parte_massima = 16;
+constexpr std::size_t pochi = 64;
 
 template <class Classe>
 bool collocabile(const distipo& doc) {
-  return !std::is_same_v<Classe, testo> || scala_comune(doc.vista.rapscala);
+  return doc.dis.con_luoghi && (!std::is_same_v<Classe, testo> || scala_comune(doc.vista.rapscala));
 }
 
 // Positions in order, each once; all objects if they are too many.
 class raccolta {
  public:
-  explicit raccolta(std::size_t numero) : massimo_(numero / parte_massima) {}
+  explicit raccolta(std::size_t numero) : massimo_(pochi + numero / parte_massima) {}
   void cerca(const indice& i, const riquadro& zona) { c_.tutti = c_.tutti || !i.cerca(zona, massimo_, c_.posizioni); }
   candidati esito() {
     std::vector<posizione_t>& p = c_.posizioni;
