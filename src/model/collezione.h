@@ -49,6 +49,18 @@ class collezione {
     return blocchi_[(posizione - 1) / per_blocco][(posizione - 1) % per_blocco];
   }
 
+  // Calls azione(posizione, oggetto) for the positions until it gives true. Their objects lie here and there: memory is
+  // asked for them ahead of their use, or each would be waited for.
+  template <class Azione>
+  bool per_posizioni(const std::vector<posizione_t>& posizioni, Azione&& azione) const {
+    constexpr std::size_t anticipo = 12;
+    for (std::size_t i = 0; i < posizioni.size(); ++i) {
+      if (i + anticipo < posizioni.size()) prepara((*this)(posizioni[i + anticipo]));
+      if (azione(posizioni[i], (*this)(posizioni[i]))) return true;
+    }
+    return false;
+  }
+
   template <class Collezione>
   class iteratore {
    public:
@@ -106,18 +118,13 @@ class collezione {
   // Positions of the objects in use, in order.
   std::vector<posizione_t> in_uso() const {
     if (da_usare_.qualcuna()) aggiorna_uso();
-    std::vector<posizione_t> veri;
-    veri.reserve(usati_.size());
-    for (const posizione_t p : usati_) {
-      if (trelvo::in_uso((*this)(p))) veri.push_back(p);
-    }
-    return veri;
+    return usati_;
   }
 
   // The places of the objects. Whoever asks brings them up to date first: azione(posizione, oggetto) for each object
   // that may have changed since the last time.
   indici& luoghi() const { return luoghi_; }
-  bool da_collocare() const { return da_collocare_.qualcuna(); }
+  std::size_t da_collocare() const { return da_collocare_.qualcuna() ? da_collocare_.quante() : 0; }
   template <class Azione>
   void colloca(Azione&& azione) const {
     da_collocare_.per_ognuna([&](std::size_t i) {
@@ -131,6 +138,12 @@ class collezione {
   void segna(std::size_t indice) {
     da_collocare_.segna(indice);
     da_usare_.segna(indice);
+  }
+
+  static void prepara(const T& oggetto) {
+    constexpr std::size_t linea_di_memoria = 64;
+    const auto* byte = reinterpret_cast<const char*>(&oggetto);
+    for (std::size_t i = 0; i < sizeof(T); i += linea_di_memoria) __builtin_prefetch(byte + i);
   }
 
   // Those that were marked are judged anew, the others are as they were.

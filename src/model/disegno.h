@@ -2,6 +2,7 @@
 #pragma once
 
 #include <type_traits>
+#include <utility>
 
 #include "model/collezione.h"
 #include "model/oggetti.h"
@@ -66,15 +67,22 @@ void visita(const disegno& dis, Visita&& azione) {
       ...);
 }
 
-// The same for the selected ones alone, at the cost of these.
+// The same for the selected ones alone, at the cost of these. Objects that are added meanwhile are not visited.
 template <class... Classi, class Disegno, class Visita>
 void visita_selezionati(Disegno& dis, Visita&& azione) {
   (
       [&] {
         auto& coll = collezione_di<Classi>(dis);
-        for (const posizione_t posizione : coll.in_uso()) {
-          if (std::as_const(coll)(posizione).stato == stato_selezionato) azione(coll(posizione));
+        const auto visita_uno = [&](posizione_t posizione, const Classi& oggetto) {
+          if (oggetto.stato == stato_selezionato) azione(coll(posizione));
+          return false;
+        };
+        if (dis.con_luoghi) {
+          std::as_const(coll).per_posizioni(coll.in_uso(), visita_uno);
+          return;
         }
+        const auto numero = static_cast<posizione_t>(coll.numero());
+        for (posizione_t p = 1; p <= numero; ++p) visita_uno(p, std::as_const(coll)(p));
       }(),
       ...);
 }

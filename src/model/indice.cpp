@@ -12,7 +12,7 @@ namespace trelvo {
 namespace {
 
 // Members of a node.
-constexpr std::size_t per_nodo = 16;
+constexpr std::size_t per_nodo = 8;
 
 constexpr float infinito = std::numeric_limits<float>::infinity();
 
@@ -54,45 +54,84 @@ std::uint32_t chiave_centro(float a, float b) {
 }
 
 // A large object would blow up the box that it shares with small ones: those within a factor of four go together.
-std::uint32_t grandezza(const riquadro& r) {
-  constexpr int maggiore = 64;
+std::uint8_t grandezza(const riquadro& r) {
+  constexpr int maggiore = 100;
   const float lato = std::max(r.x2 - r.x1, r.y2 - r.y1);
   if (!(lato < infinito)) return 2 * maggiore;
   int esponente = 0;
   std::frexp(lato, &esponente);
-  return static_cast<std::uint32_t>(esponente / 2 + maggiore);
+  return static_cast<std::uint8_t>(esponente / 2 + maggiore);
 }
 
-// Sorts in upright strips of about as many leaves as there are strips, and down each strip; each size on its own.
-template <class Voce>
-std::vector<std::uint32_t> disposizione(const std::vector<Voce>& voci) {
-  std::vector<chiavata> ordine(voci.size());
-  const auto ordina_per = [&](auto&& chiave) {
-    for (chiavata& c : ordine) c.chiave = chiave(c.indice);
-    ordina(ordine);
-  };
-  for (std::size_t i = 0; i < ordine.size(); ++i) ordine[i].indice = static_cast<std::uint32_t>(i);
-  ordina_per([&](std::uint32_t i) { return chiave_centro(voci[i].r.x1, voci[i].r.x2); });
-  ordina_per([&](std::uint32_t i) { return grandezza(voci[i].r); });
+template <class Chiave>
+std::vector<chiavata> ordinate(std::size_t numero, const Chiave& chiave) {
+  std::vector<chiavata> v(numero);
+  for (std::uint32_t i = 0; i < numero; ++i) v[i] = {chiave(i), i};
+  ordina(v);
+  return v;
+}
 
-  std::vector<std::uint32_t> strisce(voci.size());
+template <class Chiave>
+void ordina_ancora(std::vector<chiavata>& v, const Chiave& chiave) {
+  for (chiavata& c : v) c.chiave = chiave(c.indice);
+  ordina(v);
+}
+
+// By size, and within a size from left to right.
+template <class Voce>
+void ordina_per_grandezza(std::vector<Voce>& voci) {
+  std::vector<std::uint8_t> grandezze(voci.size());
+  std::transform(voci.begin(), voci.end(), grandezze.begin(), [](const Voce& v) { return grandezza(v.r); });
+  const auto centro_x = [&](std::uint32_t i) { return chiave_centro(voci[i].r.x1, voci[i].r.x2); };
+  std::vector<chiavata> ordine = ordinate(voci.size(), centro_x);
+  ordina_ancora(ordine, [&](std::uint32_t i) { return grandezze[i]; });
+  std::vector<Voce> disposte;
+  disposte.reserve(voci.size());
+  for (const chiavata& c : ordine) disposte.push_back(voci[c.indice]);
+  voci.swap(disposte);
+}
+
+// The upright strip of each, about as many strips of a size as each has leaves.
+template <class Voce>
+std::vector<std::uint32_t> strisce(const std::vector<Voce>& voci) {
+  std::vector<std::uint32_t> esito(voci.size());
   std::uint32_t striscia = 0;
-  for (auto inizio = ordine.begin(); inizio != ordine.end();) {
-    const auto fine = std::find_if(inizio, ordine.end(), [&](const chiavata& c) { return c.chiave != inizio->chiave; });
+  for (std::size_t inizio = 0; inizio < voci.size(); ++striscia) {
+    const std::uint8_t questa = grandezza(voci[inizio].r);
+    std::size_t fine = inizio;
+    while (fine < voci.size() && grandezza(voci[fine].r) == questa) ++fine;
     const double foglie = std::ceil(static_cast<double>(fine - inizio) / per_nodo);
-    const auto larghezza = static_cast<std::ptrdiff_t>(per_nodo) * static_cast<std::ptrdiff_t>(std::ceil(std::sqrt(foglie)));
-    for (auto i = inizio; i < fine; ++i) {
-      if (i != inizio && (i - inizio) % larghezza == 0) ++striscia;
-      strisce[i->indice] = striscia;
+    const std::size_t larghezza = per_nodo * static_cast<std::size_t>(std::ceil(std::sqrt(foglie)));
+    std::size_t prima = inizio;
+    for (std::size_t i = inizio; i < fine; ++i) {
+      const auto centro_x = [&](std::size_t k) { return chiave_centro(voci[k].r.x1, voci[k].r.x2); };
+      // Equal places are not parted.
+      if (i - prima >= larghezza && centro_x(i) != centro_x(i - 1)) {
+        ++striscia;
+        prima = i;
+      }
+      esito[i] = striscia;
     }
-    ++striscia;
     inizio = fine;
   }
-  ordina_per([&](std::uint32_t i) { return chiave_centro(voci[i].r.y1, voci[i].r.y2); });
-  ordina_per([&](std::uint32_t i) { return strisce[i]; });
+  return esito;
+}
 
-  std::transform(ordine.begin(), ordine.end(), strisce.begin(), [](const chiavata& c) { return c.indice; });
-  return strisce;
+// Puts them in strips, and in each strip in order downwards; gives that order.
+template <class Voce>
+std::vector<chiavata> disponi(std::vector<Voce>& voci) {
+  ordina_per_grandezza(voci);
+  const std::vector<std::uint32_t> di_chi = strisce(voci);
+  const auto centro_y = [&](std::uint32_t i) { return chiave_centro(voci[i].r.y1, voci[i].r.y2); };
+  std::vector<chiavata> ordine = ordinate(voci.size(), centro_y);
+  ordina_ancora(ordine, [&](std::uint32_t i) { return di_chi[i]; });
+  return ordine;
+}
+
+// Memory for little more than is asked for.
+void cresci(std::vector<std::uint32_t>& v, std::size_t numero, std::uint32_t valore) {
+  if (numero > v.capacity()) v.reserve(v.empty() ? numero : numero + numero / 8);
+  v.resize(numero, valore);
 }
 
 // ---- levels
@@ -161,27 +200,25 @@ void indice::concludi(const std::function<riquadro(posizione_t)>& riquadro_di) {
   if (nuovi_.empty()) return;
   const auto da_riprendere = [&] {
     return !alberi_.empty() && (oggetti_.size() - alberi_.back().primo < 2 * nuovi_.size() ||
-                                oggetti_.size() > 2 * (vivi_ + nuovi_.size()));
+                                2 * oggetti_.size() > 3 * (vivi_ + nuovi_.size()));
   };
   while (da_riprendere()) riprendi_ultimo(riquadro_di);
   pianta();
 }
 
 void indice::pianta() {
-  if (alberi_.empty()) {
-    oggetti_.reserve(nuovi_.size() + per_nodo);
-    posti_.reserve(nuovi_.size() + 1);
-  }
+  posizione_t ultima = 0;
+  for (const voce& v : nuovi_) ultima = std::max(ultima, v.posizione);
+  if (ultima >= posti_.size()) cresci(posti_, ultima + 1, nessuno);
   albero a{oggetti_.size(), {livello_di(nuovi_.size())}};
   std::vector<riquadro>& foglie = a.livelli.front();
-  oggetti_.resize(a.primo + foglie.size() * per_nodo, 0);
+  cresci(oggetti_, a.primo + foglie.size() * per_nodo, 0);
   std::size_t i = 0;
-  for (const std::uint32_t quale : disposizione(nuovi_)) {
-    const voce& v = nuovi_[quale];
+  for (const chiavata& c : disponi(nuovi_)) {
+    const voce& v = nuovi_[c.indice];
     allarga_nodo(foglie, i, v.r);
     const std::size_t posto = a.primo + i++;
     oggetti_[posto] = v.posizione;
-    if (v.posizione >= posti_.size()) posti_.resize(v.posizione + 1, nessuno);
     posti_[v.posizione] = static_cast<std::uint32_t>(posto);
   }
   while (a.livelli.back().size() > per_nodo) {

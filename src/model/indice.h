@@ -1,10 +1,10 @@
 // Where the objects of a collection lie: boxes by position, in packed trees. Knows positions and boxes, no objects.
 //
-// Sixteen objects that lie together, and are of like size, share one box, sixteen such boxes one of the next level, and
-// so on up. An object that changes stays where it is as long as it keeps within the box that it shares; otherwise it
+// Eight objects that lie together, and are of like size, share one box, eight such boxes one of the next level, and so
+// on up. An object that changes stays where it is as long as it keeps within the box that it shares; otherwise it
 // leaves its tree for a new one of those that changed together, which takes in the trees before it that are not at
 // least twice its size. So there are few trees, each change is paid by the objects that it moved, and none of the rest
-// is touched. A tree costs about nine bytes an object.
+// is touched. A tree costs about ten bytes an object.
 #pragma once
 
 #include <cstddef>
@@ -35,6 +35,8 @@ struct riquadro {
 
 class indice {
  public:
+  // Makes room for so many changes.
+  void attendi(std::size_t cambiamenti) { nuovi_.reserve(cambiamenti); }
   // The box of an object, new or changed, nullptr for none. Takes effect with the next `concludi`; one call an object
   // till then.
   void aggiorna(posizione_t posizione, const riquadro* r);
@@ -53,7 +55,7 @@ class indice {
     riquadro r;
     posizione_t posizione;
   };
-  // Its leaves are the posts from `primo` on, sixteen a leaf; the lowest level comes first.
+  // Its leaves are the posts from `primo` on, eight a leaf; the lowest level comes first.
   struct albero {
     std::size_t primo;
     std::vector<std::vector<riquadro>> livelli;

@@ -18,10 +18,12 @@ class modifiche {
     parole_[parola] |= std::uint64_t{1} << (indice % 64);
     qualcuna_ = true;
   }
-  bool segnata(std::size_t indice) const {
-    return indice / 64 < parole_.size() && (parole_[indice / 64] >> (indice % 64) & 1U) != 0;
-  }
   bool qualcuna() const { return qualcuna_; }
+  std::size_t quante() const {
+    std::size_t n = 0;
+    for (const std::uint64_t parola : parole_) n += static_cast<std::size_t>(std::popcount(parola));
+    return n;
+  }
 
   // Calls azione(indice) in order.
   template <class Azione>

@@ -54,9 +54,11 @@ void lascia_carattere(distipo& doc, const testo* ultimo) {
 template <class Classe>
 void ricerca<Classe>::colloca(distipo& doc) {
   const collezione<Classe>& coll = collezione_di<Classe>(std::as_const(doc.dis));
-  if (!coll.da_collocare()) return;
+  const std::size_t quanti = coll.da_collocare();
+  if (quanti == 0) return;
   const SurfaceFont carattere = doc.surface.font;
   indici& luoghi = coll.luoghi();
+  luoghi.vicini.attendi(quanti);
   coll.colloca([&](posizione_t posizione, const Classe& o) {
     const portata p = vivo(o) ? portata_di(doc, o) : portata{};
     luoghi.vicini.aggiorna(posizione, vivo(o) ? &p.vicino : nullptr);

@@ -57,10 +57,8 @@ bool per_candidati(distipo& doc, const candidati& c, Ammesso&& ammesso, Azione&&
   }
   const testo* misurato = nullptr;  // the last one that a plain walk would measure
   if constexpr (std::is_same_v<Classe, testo>) misurato = ultimo(coll, ammesso);
-  for (const posizione_t posizione : c.posizioni) {
-    const Classe& o = coll(posizione);
-    if (ammesso(o) && azione(posizione, o)) return true;
-  }
+  const auto prova = [&](posizione_t posizione, const Classe& o) { return ammesso(o) && azione(posizione, o); };
+  if (coll.per_posizioni(c.posizioni, prova)) return true;
   lascia_carattere(doc, misurato);
   return false;
 }
