@@ -179,14 +179,30 @@ double trascinamento(banco& b) {
   const double mezzo = mediana(9, [&] {
     const vertice p = punto(b, ++i);
     const auto scala = doc.vista.rapscala;
-    return durata(
-        [&] { Form_MouseMove(doc, static_cast<float>(p.x * scala), static_cast<float>(p.y * scala)); });
+    return durata([&] { Form_MouseMove(doc, static_cast<float>(p.x * scala), static_cast<float>(p.y * scala)); });
   });
   doc.surface.set_AutoRedraw(true);
   doc.cmd.passo = 0;
   r.tipo("");
   deseleziona(doc.dis, true);
   return mezzo;
+}
+
+// The places follow an edit at the next question.
+double dopo_una_modifica(banco& b, int parte) {
+  collezione<Linea>& linee = b.doc().dis.collLinee;
+  ricerca<Linea>::colloca(b.doc());
+  int giro = 0;
+  return mediana(5, [&] {
+    const std::size_t cambiate = linee.numero() / static_cast<std::size_t>(parte) + 1;
+    for (std::size_t i = 0; i < cambiate; ++i) {
+      Linea& o = linee(1 + (i * 7919 + static_cast<std::size_t>(giro)) % linee.numero());
+      o.Xi += 1000;
+      o.Xf += 1000;
+    }
+    ++giro;
+    return durata([&] { ricerca<Linea>::colloca(b.doc()); });
+  });
 }
 
 std::string file_di_linee(int numero) { return cartella_bench() + "/cifre" + std::to_string(numero) + ".DIS"; }
@@ -295,6 +311,77 @@ void file_e_memoria(const tabella& t) {
   t.riga("Memory of the lines, places included", "MB", 1, 150, occupa);
 }
 
+// ---- drawings that are hard on the places
+
+struct caso_peggiore {
+  const char* cosa;
+  double scopo;
+  void (*altera)(banco&);
+  std::function<double(banco&)> misura;
+};
+
+void un_punto(banco& b) {
+  for (Linea& o : b.doc().dis.collLinee) o.Xi = o.Yi = o.Xf = o.Yf = 50;
+}
+
+void una_grande(banco& b) {
+  Linea o;
+  o.Xf = b.sheet().larghezza;
+  o.Yf = b.sheet().altezza;
+  b.doc().dis.collLinee.aggiungi(o);
+}
+
+// Uprights, out of true by the last digit: the plain tests find such lines at any distance.
+void fuori_piombo(banco& b) {
+  for (Linea& o : b.doc().dis.collLinee) o.Xf = std::nextafter(o.Xi, o.Xi + 1);
+}
+
+// Some hundred thousand pixels wide.
+void lunga_spezzata(banco& b) {
+  constexpr std::int16_t molti = 32767;
+  polilinea o;
+  o.vertic(molti);
+  for (int i = 1; i <= molti; ++i) {
+    o.inser_vert_pol(b.sheet().larghezza * (3.0 * i / molti - 1), b.sheet().altezza * (0.5 + 0.4 * std::sin(i)), i);
+  }
+  b.doc().dis.collPolilinee.aggiungi(o);
+}
+
+double vista_minima(banco& b) {
+  const foglio f = b.sheet();
+  selzoom(b.doc(), f.larghezza / 2, f.altezza / 2, f.larghezza / 2 + 1e-5, f.altezza / 2 + 1e-5);
+  return ridisegno(b);
+}
+
+double vista_massima(banco& b) {
+  selzoom(b.doc(), -1e9, -1e9, 1e9, 1e9);
+  return ridisegno(b);
+}
+
+void casi_peggiori(const tabella& t) {
+  const auto manca = [](banco& b) { return aggancio(b, 3, false); };
+  const auto nessuno = [](banco&) {};
+  const caso_peggiore casi[] = {
+      {"All lines at one point: snap elsewhere", 0.0002, un_punto, manca},
+      {"One line across all others: snap, miss", 0.0002, una_grande, manca},
+      {"Lines out of true by the last digit: pick", niente, fuori_piombo, scelta_punto},
+      {"A polyline of 32,767 vertices, 100,000 pixels wide: snap", 0.002, lunga_spezzata, manca},
+      {"The same: redraw with 1,000 lines in view", 0.005, lunga_spezzata, ridisegno_mille},
+      {"Redraw of a view of a hundred thousandth of a unit", 0.002, nessuno, vista_minima},
+      {"Redraw of a view in which all lines are one pixel", 0.05, nessuno, vista_massima},
+  };
+  for (const caso_peggiore& c : casi) {
+    banco b(milione, true, false);
+    c.altera(b);
+    double v[misure] = {niente, niente, niente, niente};
+    for (const bool con_luoghi : {true, false}) {
+      b.doc().dis.con_luoghi = con_luoghi;
+      v[con_luoghi ? 2 : 3] = c.misura(b);
+    }
+    t.riga(c.cosa, "ms", 1e3, c.scopo, v);
+  }
+}
+
 // Memory and first making of the places.
 void luoghi(const tabella& t) {
   double parte[misure] = {niente, niente, niente, niente};
@@ -303,7 +390,8 @@ void luoghi(const tabella& t) {
     banco b(grandezze[g]);
     riempi(b.doc(), grandezze[g], true);
     tempo[g] = durata([&] { ricerca<Linea>::colloca(b.doc()); });
-    parte[g] = static_cast<double>(memoria_luoghi<Linea>(b.doc().dis)) / (sizeof(Linea) * static_cast<double>(grandezze[g]));
+    parte[g] =
+        static_cast<double>(memoria_luoghi<Linea>(b.doc().dis)) / (sizeof(Linea) * static_cast<double>(grandezze[g]));
   }
   t.riga("Making the places of lines, once", "ms", 1e3, niente, tempo);
   t.riga("Memory of the places, to that of the lines", "%", 1e2, 0.2, parte);
@@ -316,21 +404,26 @@ void stampa_tabella() {
   luoghi(t);
   misura_righe(t, {{"Redraw, all in view, lines of 20 pixels", 0.05, ridisegno}}, true, true);
   misura_righe(t, {{"Redraw, all in view, all classes, objects of 20 pixels", 0.3, ridisegno}}, false, true);
-  misura_righe(t,
-               {{"Redraw, all in view, all classes, small objects", 0.3, ridisegno},
-                {"Redraw with 1,000 objects in view", 0.002, ridisegno_mille},
-                {"Snap to ends, hit", 0.0002, [](banco& b) { return aggancio(b, 3, true); }},
-                {"Snap to ends, miss", 0.0002, [](banco& b) { return aggancio(b, 3, false); }},
-                {"Snap to centres, miss", 0.0002, [](banco& b) { return aggancio(b, 6, false); }},
-                {"Pick", 0.001, scelta_punto},
-                {"Window selection of 100 objects, painting included", 0.001,
-                 [](banco& b) { return scelta_finestra(b, selezfin); }},
-                {"Crossing selection of 100 objects, painting included", 0.001,
-                 [](banco& b) { return scelta_finestra(b, selezinters); }},
-                {"Stretch selection of 100 objects, painting included", 0.001,
-                 [](banco& b) { return scelta_finestra(b, selezintersStira); }},
-                {"Move of the pointer with a tenth of all objects being moved", 0.02, trascinamento}},
-               false, false);
+  misura_righe(
+      t,
+      {{"Redraw, all in view, all classes, small objects", 0.3, ridisegno},
+       {"Redraw with 1,000 objects in view", 0.002, ridisegno_mille},
+       {"Snap to ends, hit", 0.0002, [](banco& b) { return aggancio(b, 3, true); }},
+       {"Snap to ends, miss", 0.0002, [](banco& b) { return aggancio(b, 3, false); }},
+       {"Snap to centres, miss", 0.0002, [](banco& b) { return aggancio(b, 6, false); }},
+       {"Pick", 0.001, scelta_punto},
+       {"Window selection of 100 objects, painting included", 0.001,
+        [](banco& b) { return scelta_finestra(b, selezfin); }},
+       {"Crossing selection of 100 objects, painting included", 0.001,
+        [](banco& b) { return scelta_finestra(b, selezinters); }},
+       {"Stretch selection of 100 objects, painting included", 0.001,
+        [](banco& b) { return scelta_finestra(b, selezintersStira); }},
+       {"Move of the pointer with a tenth of all objects being moved", 0.02, trascinamento},
+       {"Places after an edit of one line", niente, [](banco& b) { return dopo_una_modifica(b, milione); }},
+       {"Places after an edit of a tenth of the lines", niente, [](banco& b) { return dopo_una_modifica(b, 10); }}},
+      false, false);
+  std::printf("Hard cases, on lines\n");
+  casi_peggiori(t);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 // An ordered collection of objects in contiguous chunks: an object never moves, and nothing is ever removed.
 //
-// Beside the objects it keeps what is derived from them, so that questions about a few need no walk over all: the places
-// of the objects, and the list of those in use. Both follow by themselves. Whoever takes an object for writing, by its
-// position or in a walk, marks it, and marked objects are looked at again at the next question; reading through a const
-// collection marks nothing. So a reference for writing is good until the next question, and a walk that writes to few
-// objects had better find them through a const collection.
+// Beside the objects it keeps what is derived from them, so that questions about a few need no walk over all: the
+// places of the objects, and the list of those in use. Both follow by themselves. Whoever takes an object for writing,
+// by its position or in a walk, marks it, and marked objects are looked at again at the next question; reading through
+// a const collection marks nothing. So a reference for writing is good until the next question, and a walk that writes
+// to few objects had better find them through a const collection.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Which objects the commands deal with apart from where they lie: the selected ones, and lines and arcs that hold a mark
-// of a stretch.
+// Which objects the commands deal with apart from where they lie: the selected ones, and lines and arcs that hold a
+// mark of a stretch.
 #pragma once
 
 #include "model/oggetti.h"

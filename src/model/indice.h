@@ -62,23 +62,21 @@ class indice {
   };
   static constexpr std::uint32_t nessuno = 0xFFFFFFFF;
 
-  bool collocata(posizione_t posizione) const {
-    return posizione < posti_.size() && posti_[posizione] != nessuno;
-  }
+  bool collocata(posizione_t posizione) const { return posizione < posti_.size() && posti_[posizione] != nessuno; }
   const riquadro& foglia_di(std::uint32_t posto) const;
   void togli(posizione_t posizione);
   void riprendi_ultimo(const std::function<riquadro(posizione_t)>& riquadro_di);
   void pianta();
 
   std::vector<albero> alberi_;
-  std::vector<posizione_t> oggetti_;   // by post; 0 for none
+  std::vector<posizione_t> oggetti_;  // by post; 0 for none
   std::vector<std::uint32_t> posti_;  // by position
   std::size_t vivi_ = 0;
   std::vector<voce> nuovi_;  // of the present round
 };
 
-// Two indexes a collection: `vicini` tells where windows meet an object and picks usually do, `lontani` the rest of where
-// a pick may meet it.
+// Two indexes a collection: `vicini` tells where windows meet an object and picks usually do, `lontani` the rest of
+// where a pick may meet it.
 struct indici {
   indice vicini;
   indice lontani;

@@ -5,6 +5,10 @@
 // of the class, the walk is a plain one.
 #pragma once
 
+#include <type_traits>
+#include <utility>
+#include <vector>
+
 #include "document/distipo.h"
 #include "geometry/finestra.h"
 #include "view/selezione_mira.h"

@@ -18,7 +18,8 @@ constexpr double infinito = std::numeric_limits<double>::infinity();
 // Squares of squares of coordinates below this are no infinities.
 constexpr double coordinata_massima = 1e30;
 
-// The rounding of the circle tests, in parts of the coordinates: the error of the difference of two squares under a root.
+// The rounding of the circle tests, in parts of the coordinates: the error of the difference of two squares under a
+// root.
 constexpr double parte_cerchi = 1e-5;
 // With two circles the error also grows with the distance, to some parts of the radius on this.
 constexpr double parte_raggio = 0.1;
@@ -43,9 +44,7 @@ struct estensione {
   double massima() const { return std::max({-x1, x2, -y1, y2, 0.0}); }
   double lato() const { return std::max(x2 - x1, y2 - y1); }
   bool comune() const { return somma < coordinata_massima; }
-  estensione allargata(double margine) const {
-    return {x1 - margine, y1 - margine, x2 + margine, y2 + margine, somma};
-  }
+  estensione allargata(double margine) const { return {x1 - margine, y1 - margine, x2 + margine, y2 + margine, somma}; }
   riquadro intorno() const { return riquadro::intorno(x1, y1, x2, y2); }
 };
 
@@ -170,8 +169,8 @@ portata portata_di(distipo& doc, const testo& o) {
   const double angolo = o.ang_testo() * std::numbers::pi / 180;
   const double c = std::cos(angolo);
   const double s = std::sin(angolo);
-  const double margine = std::max(margine_bordo(ingombro.x * c, ingombro.x * s, r),
-                                  margine_bordo(ingombro.y * s, ingombro.y * c, r));
+  const double margine =
+      std::max(margine_bordo(ingombro.x * c, ingombro.x * s, r), margine_bordo(ingombro.y * s, ingombro.y * c, r));
   constexpr double parte_scala = 1e-9;
   return portata_di_lati(e.allargata(parte_scala * e.somma), margine);
 }

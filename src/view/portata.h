@@ -1,5 +1,5 @@
-// How far an object reaches: the boxes outside of which no exact test of the view can accept it, rounding of those tests
-// included. In drawing units.
+// How far an object reaches: the boxes outside of which no exact test of the view can accept it, rounding of those
+// tests included. In drawing units.
 #pragma once
 
 #include <optional>

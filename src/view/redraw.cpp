@@ -34,10 +34,11 @@ void disegna_griglia(distipo& doc) {
 
 template <class Classe>
 void disegna_classe(distipo& doc, const finestra& f) {
-  per_candidati<Classe>(doc, ricerca<Classe>::in(doc, f), vivo<Classe>, [&](posizione_t /*posizione*/, const Classe& o) {
-    if (interseca(doc, o, f)) disegna(doc, o, o.stato == stato_presente);
-    return false;
-  });
+  per_candidati<Classe>(doc, ricerca<Classe>::in(doc, f), vivo<Classe>,
+                        [&](posizione_t /*posizione*/, const Classe& o) {
+                          if (interseca(doc, o, f)) disegna(doc, o, o.stato == stato_presente);
+                          return false;
+                        });
 }
 
 template <class... Classi>

@@ -208,8 +208,8 @@ struct Kind {
 };
 
 TEST(Candidates, TellWhatThePlainWalkTells) {
-  const Kind kinds[] = {{1, 300, 60, 60}, {1, 1000000, 200, 30}, {1e6, 1000000, 100, 20}, {1e-4, 500, 60, 20},
-                        {1, 5, 40, 10},   {1, 3000, 2000, 2}};
+  const Kind kinds[] = {{1, 300, 60, 60},    {1, 1000000, 200, 30}, {1e6, 1000000, 100, 20},
+                        {1e-4, 500, 60, 20}, {1, 5, 40, 10},        {1, 3000, 2000, 2}};
   unsigned seed = 0;
   int questions = 0;
   int answers = 0;
