@@ -18,8 +18,7 @@ void togli_segni_da(Oggetto& o) {
 
 bool deseleziona(disegno& dis, bool togli_segni) {
   bool trovato = false;
-  visita<superficie, Rettangolo, Cerchio, Arco, Linea, polilinea, testo>(dis, [&](auto& oggetto) {
-    if (oggetto.stato != stato_selezionato) return;
+  visita_selezionati<superficie, Rettangolo, Cerchio, Arco, Linea, polilinea, testo>(dis, [&](auto& oggetto) {
     oggetto.stato = stato_presente;
     trovato = true;
     if (togli_segni) togli_segni_da(oggetto);

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "commands/zoom.h"
 #include "geometry/cerchi.h"
@@ -53,9 +54,11 @@ void allarga_a(distipo& doc, const Oggetto& o) {
 void determxymin_xymax(distipo& doc) {
   statovista& v = doc.vista;
   v.xmindis = v.ymindis = v.xmaxdis = v.ymaxdis = 0;
-  visita<superficie, polilinea, Rettangolo, Linea, Cerchio, Arco, testo>(doc.dis, [&](const auto& oggetto) {
-    if (oggetto.stato != stato_cancellato) allarga_a(doc, oggetto);
-  });
+  visita<superficie, polilinea, Rettangolo, Linea, Cerchio, Arco, testo>(std::as_const(doc.dis),
+                                                                         [&](const auto& oggetto) {
+                                                                           if (oggetto.stato != stato_cancellato)
+                                                                             allarga_a(doc, oggetto);
+                                                                         });
 }
 
 }  // namespace trelvo

@@ -9,17 +9,14 @@ namespace trelvo {
 
 namespace {
 
-// The main pass. Objects that a step adds come after those that are passed through; references hold meanwhile.
+// The main pass. Objects that a step adds are not passed through; references hold meanwhile.
 template <class Classe, class Passo>
-void passa(collezione<Classe>& coll, int& contatore, Passo&& passo) {
-  const std::size_t numero = coll.numero();
-  for (std::size_t posizione = 1; posizione <= numero; ++posizione) {
-    Classe& o = coll(posizione);
-    if (o.stato != stato_selezionato) continue;
+void passa(disegno& dis, int& contatore, Passo&& passo) {
+  visita_selezionati<Classe>(dis, [&](Classe& o) {
     contatore = 1;
     o.stato = stato_presente;
     passo(o);
-  }
+  });
 }
 
 template <class Classe>
@@ -30,22 +27,22 @@ void esegui_su(distipo& doc, int n, int& contatore) {
   collezione<Classe>& coll = collezione_di<Classe>(doc.dis);
 
   if (nome == "Cancella") {
-    passa(coll, contatore, [](Classe& o) { o.stato = stato_cancellato; });
+    passa<Classe>(doc.dis, contatore, [](Classe& o) { o.stato = stato_cancellato; });
   } else if (nome == "Sposta") {
-    passa(coll, contatore, [t = traslazione(punti)](Classe& o) { trasforma(o, t); });
+    passa<Classe>(doc.dis, contatore, [t = traslazione(punti)](Classe& o) { trasforma(o, t); });
   } else if (nome == "Copia") {
-    passa(coll, contatore, [&coll, t = traslazione(punti)](const Classe& o) {
+    passa<Classe>(doc.dis, contatore, [&coll, t = traslazione(punti)](const Classe& o) {
       Classe nuovo = copia_di(o);
       trasforma(nuovo, t);
       coll.aggiungi(std::move(nuovo));
     });
   } else if (nome == "Stira") {
     static_cast<void>(traslazione(punti));  // fails before anything has moved
-    passa(coll, contatore, [&punti](Classe& o) { stira(o, punti); });
+    passa<Classe>(doc.dis, contatore, [&punti](Classe& o) { stira(o, punti); });
   } else if (nome == "Ruota") {
-    passa(coll, contatore, [r = rotazione(punti)](Classe& o) { ruota(o, r); });
+    passa<Classe>(doc.dis, contatore, [r = rotazione(punti)](Classe& o) { ruota(o, r); });
   } else if (nome == "Specchio") {
-    passa(coll, contatore, [&coll, r = riflessione(punti)](const Classe& o) {
+    passa<Classe>(doc.dis, contatore, [&coll, r = riflessione(punti)](const Classe& o) {
       Classe nuovo = copia_di(o);
       specchia(nuovo, r);
       coll.aggiungi(std::move(nuovo));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <type_traits>
+#include <utility>
 
 #include "model/collezione.h"
 #include "model/oggetti.h"
@@ -16,6 +17,9 @@ struct disegno {
   collezione<testo> collTesti;
   collezione<Arco> collArchi;
   collezione<Cerchio> collCerchi;
+
+  // False makes every walk of the view a plain one over all objects, for comparison.
+  bool con_luoghi = true;
 };
 
 template <class Classe>
@@ -43,7 +47,8 @@ const auto& collezione_di(const disegno& dis) {
   return collezione_di<Classe>(const_cast<disegno&>(dis));
 }
 
-// Visits every object of the named classes, class by class in the order named: each walk says its own order.
+// Visits every object of the named classes, class by class in the order named: each walk says its own order. A walk
+// that writes nothing had better take the drawing as const (collezione.h).
 template <class... Classi, class Visita>
 void visita(disegno& dis, Visita&& azione) {
   (
@@ -58,6 +63,26 @@ void visita(const disegno& dis, Visita&& azione) {
   (
       [&] {
         for (const auto& oggetto : collezione_di<Classi>(dis)) azione(oggetto);
+      }(),
+      ...);
+}
+
+// The same for the selected ones alone, at the cost of these. Objects that are added meanwhile are not visited.
+template <class... Classi, class Disegno, class Visita>
+void visita_selezionati(Disegno& dis, Visita&& azione) {
+  (
+      [&] {
+        auto& coll = collezione_di<Classi>(dis);
+        const auto visita_uno = [&](posizione_t posizione, const Classi& oggetto) {
+          if (oggetto.stato == stato_selezionato) azione(coll(posizione));
+          return false;
+        };
+        if (dis.con_luoghi) {
+          std::as_const(coll).per_posizioni(coll.in_uso(), visita_uno);
+          return;
+        }
+        const auto numero = static_cast<posizione_t>(coll.numero());
+        for (posizione_t p = 1; p <= numero; ++p) visita_uno(p, std::as_const(coll)(p));
       }(),
       ...);
 }

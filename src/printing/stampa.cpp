@@ -139,6 +139,17 @@ void stampa_con_avanzamento(distipo& doc, int numero) {
   bas.desktop.show_modal(b);
 }
 
+// Only what has the mark is written to.
+template <class Classe>
+void azzera_stampare(disegno& dis) {
+  collezione<Classe>& coll = collezione_di<Classe>(dis);
+  std::size_t posizione = 0;
+  for (const Classe& o : std::as_const(coll)) {
+    ++posizione;
+    if (o.stampare != 0) coll(posizione).stampare = 0;
+  }
+}
+
 // ---- dialog
 
 void Command1_Click(trelvobas& bas) {
@@ -149,7 +160,13 @@ void Command1_Click(trelvobas& bas) {
 }  // namespace
 
 void inizializ_stampare(disegno& dis) {
-  visita<superficie, Rettangolo, Linea, polilinea, testo, Arco, Cerchio>(dis, [](auto& o) { o.stampare = 0; });
+  azzera_stampare<superficie>(dis);
+  azzera_stampare<Rettangolo>(dis);
+  azzera_stampare<Linea>(dis);
+  azzera_stampare<polilinea>(dis);
+  azzera_stampare<testo>(dis);
+  azzera_stampare<Arco>(dis);
+  azzera_stampare<Cerchio>(dis);
 }
 
 void selfinstamp(distipo& doc) {

@@ -1,10 +1,13 @@
 #include "view/aggancio.h"
 
+#include <utility>
+
 #include "document/trelvobas.h"
 #include "geometry/angoli.h"
 #include "geometry/cerchi.h"
 #include "geometry/mira.h"
 #include "model/punti.h"
+#include "view/candidati.h"
 #include "view/pittura.h"
 #include "view/selezione_mira.h"
 
@@ -69,7 +72,7 @@ template <class... Classi>
 bool cerca_tratto(distipo& doc, const mira& m) {
   tratto t;
   const bool trovato =
-      ((primo<Classi>(doc.dis, [&](const Classi& o) { return tratto_in_mira(doc, o, m, t); }) != nullptr) || ...);
+      ((primo<Classi>(doc, m, [&](const Classi& o) { return tratto_in_mira(doc, o, m, t); }) != 0) || ...);
   if (trovato) aggancia_tratto(doc.filtro, t);
   return trovato;
 }
@@ -106,15 +109,17 @@ void aggancia_arco(statofiltro& filtro, const Arco& o) {
 }
 
 bool cerca_arco(distipo& doc, const mira& m) {
-  const Arco* o = primo<Arco>(doc.dis, [&](const Arco& prova) { return in_mira(doc, prova, m); });
-  if (o != nullptr) aggancia_arco(doc.filtro, *o);
-  return o != nullptr;
+  const posizione_t p = primo<Arco>(doc, m, [&](const Arco& prova) { return in_mira(doc, prova, m); });
+  if (p != 0) aggancia_arco(doc.filtro, std::as_const(doc.dis.collArchi)(p));
+  return p != 0;
 }
 
 bool cerca_cerchio(distipo& doc, const mira& m) {
-  const Cerchio* o = primo<Cerchio>(doc.dis, [&](const Cerchio& prova) { return in_mira(doc, prova, m); });
-  if (o != nullptr) prendi(doc.filtro, o->Xcentro, o->Ycentro);
-  return o != nullptr;
+  const posizione_t p = primo<Cerchio>(doc, m, [&](const Cerchio& prova) { return in_mira(doc, prova, m); });
+  if (p == 0) return false;
+  const Cerchio& o = std::as_const(doc.dis.collCerchi)(p);
+  prendi(doc.filtro, o.Xcentro, o.Ycentro);
+  return true;
 }
 
 bool cerca(distipo& doc, const mira& m) {

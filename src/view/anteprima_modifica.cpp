@@ -19,12 +19,11 @@ namespace {
 template <class Classe, class Trasforma>
 void dipingi_classe(distipo& doc, const Trasforma& trasforma) {
   Classe copia;
-  for (const Classe& o : std::as_const(collezione_di<Classe>(doc.dis))) {
-    if (o.stato != stato_selezionato) continue;
+  visita_selezionati<Classe>(std::as_const(doc.dis), [&](const Classe& o) {
     copia = o;
     trasforma(copia);
     disegna(doc, copia, true);
-  }
+  });
 }
 
 template <class Trasforma>

@@ -23,6 +23,9 @@ inline void disegna(distipo& doc, const Rettangolo& o, bool proprio) { disegnare
 inline void disegna(distipo& doc, const superficie& o, bool proprio) { disegnasuperficie(doc, o, proprio); }
 inline void disegna(distipo& doc, const testo& o, bool proprio) { disegnatesto(doc, o, proprio); }
 
+SurfaceFont carattere_di(const testo& t);
+// Width and height of a text in drawing units, the same at every scale but for rounding.
+vertice ingombro_testo(distipo& doc, const testo& t);
 // Corners of a text from its first one, all in logical units (drawing units times `rapscala`). Measures with the
 // window's own font, which stays set to the text's.
 riquadro_testo determvert_testo(distipo& doc, const testo& t, double X1, double Y1);

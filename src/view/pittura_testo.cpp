@@ -23,17 +23,33 @@ void bordo_testo(distipo& doc, const riquadro_testo& r) {
   }
 }
 
+// Measures with the window's own font.
+Size misura_testo(Surface& s, const testo& t) {
+  s.font = carattere_di(t);
+  return s.GetTextExtentPoint32A(right_trimmed(t.stringa_testo));
+}
+
 }  // namespace
+
+SurfaceFont carattere_di(const testo& t) {
+  return {t.nome_carattere(),
+          t.dimens_testo,
+          t.bold_testo != falso,
+          t.corsivo_testo() != falso,
+          t.sottolineato_testo != falso,
+          t.barrato_testo != falso};
+}
+
+vertice ingombro_testo(distipo& doc, const testo& t) {
+  Surface& s = doc.surface;
+  const Size misura = misura_testo(s, t);
+  return {s.ScaleX(misura.width, scale_pixels, s.ScaleMode) / divisore_riquadro,
+          s.ScaleY(misura.height, scale_pixels, s.ScaleMode) / divisore_riquadro};
+}
 
 riquadro_testo determvert_testo(distipo& doc, const testo& t, double X1, double Y1) {
   Surface& s = doc.surface;
-  s.font = {t.nome_carattere(),
-            t.dimens_testo,
-            t.bold_testo != falso,
-            t.corsivo_testo() != falso,
-            t.sottolineato_testo != falso,
-            t.barrato_testo != falso};
-  const Size misura = s.GetTextExtentPoint32A(right_trimmed(t.stringa_testo));
+  const Size misura = misura_testo(s, t);
   const double scala = doc.vista.rapscala;
   const double W = s.ScaleX(misura.width, scale_pixels, s.ScaleMode) * scala / divisore_riquadro;
   const double H = s.ScaleY(misura.height, scale_pixels, s.ScaleMode) * scala / divisore_riquadro;

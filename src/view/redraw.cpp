@@ -4,6 +4,7 @@
 
 #include "document/trelvobas.h"
 #include "model/tavolozza.h"
+#include "view/candidati.h"
 #include "view/mappa.h"
 #include "view/pittura.h"
 
@@ -29,6 +30,20 @@ void disegna_griglia(distipo& doc) {
   for (double i = 0; i <= A; i += p) {
     for (double j = 0; j <= B; j += p) s.PSet((i + C) * scala, (j + D) * scala, colore);
   }
+}
+
+template <class Classe>
+void disegna_classe(distipo& doc, const finestra& f) {
+  per_candidati<Classe>(doc, ricerca<Classe>::in(doc, f), vivo<Classe>,
+                        [&](posizione_t /*posizione*/, const Classe& o) {
+                          if (interseca(doc, o, f)) disegna(doc, o, o.stato == stato_presente);
+                          return false;
+                        });
+}
+
+template <class... Classi>
+void disegna_vista(distipo& doc, const finestra& f) {
+  (disegna_classe<Classi>(doc, f), ...);
 }
 
 }  // namespace
@@ -72,10 +87,7 @@ void redraw(distipo& doc) {
   doc.surface.Cls();
   const vistaviva v = vista_viva(doc);
   const finestra f{v.sinistra, v.alto, v.destra, v.basso};
-  visita<superficie, Rettangolo, Cerchio, Arco, testo, polilinea, Linea>(doc.dis, [&](const auto& oggetto) {
-    if (oggetto.stato == stato_cancellato || !interseca(doc, oggetto, f)) return;
-    disegna(doc, oggetto, oggetto.stato == stato_presente);
-  });
+  disegna_vista<superficie, Rettangolo, Cerchio, Arco, testo, polilinea, Linea>(doc, f);
   impostdistipo(doc);
 }
 

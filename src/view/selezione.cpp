@@ -5,6 +5,7 @@
 #include "document/trelvobas.h"
 #include "geometry/infin.h"
 #include "model/punti.h"
+#include "view/candidati.h"
 #include "view/pittura.h"
 #include "view/redraw.h"
 
@@ -14,17 +15,29 @@ namespace {
 
 constexpr std::int16_t da_stampare = 1;
 
+constexpr auto vivi = [](const auto& o) { return vivo(o); };
+
 void ordina(double& x1, double& y1, double& x2, double& y2) {
   if (y1 > y2) std::swap(y1, y2);
   if (x1 > x2) std::swap(x1, x2);
 }
 
+// An object is written to where it changes, and read elsewhere.
+template <class Classe>
+Classe& da_cambiare(distipo& doc, posizione_t posizione) {
+  return collezione_di<Classe>(doc.dis)(posizione);
+}
+template <class Classe>
+const Classe& oggetto(const distipo& doc, posizione_t posizione) {
+  return collezione_di<Classe>(doc.dis)(posizione);
+}
+
 // False for an object that was selected already.
 template <class Oggetto>
-bool seleziona(distipo& doc, Oggetto& o) {
+bool seleziona(distipo& doc, const Oggetto& o, posizione_t posizione) {
   if (o.stato == stato_selezionato) return false;
   ++doc.cmd.ntrovati;
-  o.stato = stato_selezionato;
+  da_cambiare<Oggetto>(doc, posizione).stato = stato_selezionato;
   return true;
 }
 
@@ -39,8 +52,10 @@ template <class... Classi>
 void seleziona_primi(distipo& doc, const mira& m) {
   (
       [&] {
-        Classi* o = primo<Classi>(doc.dis, [&](const Classi& prova) { return in_mira(doc, prova, m); });
-        if (o != nullptr && seleziona(doc, *o)) mostra(doc, *o);
+        const posizione_t p = primo<Classi>(doc, m, [&](const Classi& prova) { return in_mira(doc, prova, m); });
+        if (p == 0) return;
+        const Classi& o = oggetto<Classi>(doc, p);
+        if (seleziona(doc, o, p)) mostra(doc, o);
       }(),
       ...);
 }
@@ -78,47 +93,83 @@ void mostra_per_vertice(distipo& doc, const Oggetto& o, int marcati) {
 }
 
 template <a_vertici Oggetto>
-void marca(distipo& doc, Oggetto& o, const finestra& f) {
+void marca(distipo& doc, const Oggetto& o, posizione_t posizione, const finestra& f) {
   int marcati = 0;
   int i = 0;
-  for (const vertice& v : std::as_const(o).vertici.tutti()) {
+  for (const vertice& v : o.vertici.tutti()) {
     ++i;
     if (!f.contiene(v.x, v.y)) continue;
-    o.ins_vertselez(1, i);
+    da_cambiare<Oggetto>(doc, posizione).ins_vertselez(1, i);
     ++marcati;
   }
   if (marcati == 0) return;
   mostra_per_vertice(doc, o, marcati);
-  seleziona(doc, o);
+  seleziona(doc, o, posizione);
 }
 
 // Marks of earlier windows hold.
 template <class Oggetto>
-void marca_estremi(distipo& doc, Oggetto& o, bool primo_dentro, bool secondo_dentro) {
-  if (primo_dentro) o.vert1_selez = 1;
-  if (secondo_dentro) o.vert2_selez = 1;
+void marca_estremi(distipo& doc, const Oggetto& o, posizione_t posizione, bool primo_dentro, bool secondo_dentro) {
+  if (primo_dentro) da_cambiare<Oggetto>(doc, posizione).vert1_selez = 1;
+  if (secondo_dentro) da_cambiare<Oggetto>(doc, posizione).vert2_selez = 1;
   if (o.vert1_selez != 1 && o.vert2_selez != 1) return;
   mostra(doc, o);
-  seleziona(doc, o);
+  seleziona(doc, o, posizione);
 }
 
-void marca(distipo& doc, Linea& o, const finestra& f) {
-  marca_estremi(doc, o, f.contiene(o.Xi, o.Yi), f.contiene(o.Xf, o.Yf));
+void marca(distipo& doc, const Linea& o, posizione_t posizione, const finestra& f) {
+  marca_estremi(doc, o, posizione, f.contiene(o.Xi, o.Yi), f.contiene(o.Xf, o.Yf));
 }
 
-void marca(distipo& doc, Arco& o, const finestra& f) {
-  marca_estremi(doc, o, f.contiene(o.p1x, o.p1y), f.contiene(o.p2x, o.p2y));
+void marca(distipo& doc, const Arco& o, posizione_t posizione, const finestra& f) {
+  marca_estremi(doc, o, posizione, f.contiene(o.p1x, o.p1y), f.contiene(o.p2x, o.p2y));
 }
 
 template <class Oggetto>
-void prendi_intero(distipo& doc, Oggetto& o, const finestra& f) {
+void prendi_intero(distipo& doc, const Oggetto& o, posizione_t posizione, const finestra& f) {
   if (!interseca(doc, o, f)) return;
   mostra(doc, o);
-  seleziona(doc, o);
+  seleziona(doc, o, posizione);
 }
 
-void marca(distipo& doc, testo& o, const finestra& f) { prendi_intero(doc, o, f); }
-void marca(distipo& doc, Cerchio& o, const finestra& f) { prendi_intero(doc, o, f); }
+void marca(distipo& doc, const testo& o, posizione_t posizione, const finestra& f) {
+  prendi_intero(doc, o, posizione, f);
+}
+void marca(distipo& doc, const Cerchio& o, posizione_t posizione, const finestra& f) {
+  prendi_intero(doc, o, posizione, f);
+}
+
+// ---- walks
+
+// Calls azione(oggetto, posizione) for the candidates of each class that `ammesso` lets through.
+template <class Classe, class Ammesso, class Azione>
+void per_classe(distipo& doc, const candidati& c, const Ammesso& ammesso, const Azione& azione) {
+  per_candidati<Classe>(doc, c, ammesso, [&](posizione_t posizione, const Classe& o) {
+    azione(o, posizione);
+    return false;
+  });
+}
+
+template <class... Classi, class Ammesso, class Azione>
+void per_ogni(distipo& doc, const finestra& f, const Ammesso& ammesso, const Azione& azione) {
+  (per_classe<Classi>(doc, ricerca<Classi>::in(doc, f), ammesso, azione), ...);
+}
+
+// What has a mark from before is taken up again by any window.
+template <class Classe>
+candidati candidati_stira(distipo& doc, const finestra& f) {
+  candidati c = ricerca<Classe>::in(doc, f);
+  if constexpr (requires(Classe o) { o.vert1_selez; }) {
+    c.unisci(collezione_di<Classe>(std::as_const(doc.dis)).in_uso());
+  }
+  return c;
+}
+
+template <class... Classi>
+void marca_ogni(distipo& doc, const finestra& f) {
+  const auto azione = [&](const auto& o, posizione_t posizione) { marca(doc, o, posizione, f); };
+  (per_classe<Classi>(doc, candidati_stira<Classi>(doc, f), vivi, azione), ...);
+}
 
 }  // namespace
 
@@ -131,10 +182,10 @@ void selezfin(distipo& doc, double& x1, double& y1, double& x2, double& y2) {
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
   ordina(x1, y1, x2, y2);
   const finestra f{x1, y1, x2, y2};
-  visita<superficie, Linea, Rettangolo, testo, Cerchio, Arco, polilinea>(doc.dis, [&](auto& o) {
-    if (o.stato == stato_cancellato || !dentro(doc, o, f)) return;
-    if (seleziona(doc, o)) mostra(doc, o);
-  });
+  per_ogni<superficie, Linea, Rettangolo, testo, Cerchio, Arco, polilinea>(
+      doc, f, vivi, [&](const auto& o, posizione_t posizione) {
+        if (dentro(doc, o, f) && seleziona(doc, o, posizione)) mostra(doc, o);
+      });
 }
 
 void selezinters(distipo& doc, double& x1, double& y1, double& x2, double& y2) {
@@ -144,30 +195,29 @@ void selezinters(distipo& doc, double& x1, double& y1, double& x2, double& y2) {
   const std::string comando = doc.cmd.comando();
   const bool stampa = comando == "Selstamp";
   const bool di_nuovo = dopo_uno_zoom(doc);
-  visita<superficie, Rettangolo, Linea, Cerchio, Arco, polilinea, testo>(doc.dis, [&](auto& o) {
-    if (o.stato == stato_cancellato || (o.stato != stato_presente && !di_nuovo)) return;
-    if (!interseca(doc, o, f)) return;
-    if (stampa) {
-      o.stampare = da_stampare;
-    } else if (seleziona(doc, o) && !comando.empty()) {
-      mostra(doc, o);
-    }
-  });
+  const auto ammessi = [&](const auto& o) { return vivo(o) && (o.stato == stato_presente || di_nuovo); };
+  per_ogni<superficie, Rettangolo, Linea, Cerchio, Arco, polilinea, testo>(
+      doc, f, ammessi, [&]<class Classe>(const Classe& o, posizione_t posizione) {
+        if (!interseca(doc, o, f)) return;
+        if (stampa) {
+          da_cambiare<Classe>(doc, posizione).stampare = da_stampare;
+        } else if (seleziona(doc, o, posizione) && !comando.empty()) {
+          mostra(doc, o);
+        }
+      });
 }
 
 void selezintersStira(distipo& doc, double& x1, double& y1, double& x2, double& y2) {
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
   ordina(x1, y1, x2, y2);
   const finestra f{x1, y1, x2, y2};
-  visita<superficie, Linea, Rettangolo, testo, Cerchio, Arco, polilinea>(doc.dis, [&](auto& o) {
-    if (o.stato != stato_cancellato) marca(doc, o, f);
-  });
+  marca_ogni<superficie, Linea, Rettangolo, testo, Cerchio, Arco, polilinea>(doc, f);
 }
 
 int conta_selezionati(const distipo& doc) {
   int n = 0;
-  visita<superficie, Rettangolo, Linea, polilinea, testo, Arco, Cerchio>(
-      doc.dis, [&](const auto& o) { n += o.stato == stato_selezionato ? 1 : 0; });
+  visita_selezionati<superficie, Rettangolo, Linea, polilinea, testo, Arco, Cerchio>(doc.dis,
+                                                                                     [&](const auto& /*o*/) { ++n; });
   return n;
 }
 

@@ -1,8 +1,6 @@
 // What lies under the pointer: hit tests of a pick, the same for the snap search.
 #pragma once
 
-#include <utility>
-
 #include "document/distipo.h"
 
 namespace trelvo {
@@ -24,14 +22,5 @@ bool in_mira(distipo& doc, const polilinea& o, const mira& m);
 bool in_mira(distipo& doc, const Rettangolo& o, const mira& m);
 bool in_mira(distipo& doc, const superficie& o, const mira& m);
 bool in_mira(distipo& doc, const testo& o, const mira& m);
-
-// The first object of a class, deleted ones left out, that passes; nullptr for none.
-template <class Classe, class Prova>
-Classe* primo(disegno& dis, Prova&& prova) {
-  for (Classe& o : collezione_di<Classe>(dis)) {
-    if (o.stato != stato_cancellato && prova(std::as_const(o))) return &o;
-  }
-  return nullptr;
-}
 
 }  // namespace trelvo
