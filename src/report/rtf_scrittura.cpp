@@ -114,7 +114,7 @@ void aggiungi_segno(std::string& testo, char32_t c) {
 void scrittorertf::parola(const char* nome, int numero) { corpo_ += nome + std::to_string(numero); }
 
 void scrittorertf::carattere(const formatocarattere& formato) {
-  corpo_ += "\\plain";
+  corpo_ += '{';
   if (formato.scostamento != 0) scostamento(formato.scostamento);
   parola("\\f", caratteri_.numero(formato.nome));
   parola("\\fs", formato.mezzipunti);
@@ -137,7 +137,7 @@ void scrittorertf::scostamento(int twip) {
 void scrittorertf::inizia_paragrafo(const formatoparagrafo& formato) {
   constexpr std::array<const char*, 4> parole{"\\ql", "\\qr", "\\qc", "\\qj"};
   if (formato.puntato) corpo_ += "{\\pntext\\'95\\tab}";
-  corpo_ += "\\pard";
+  corpo_ += "\\pard\\plain";
   corpo_ += parole[static_cast<std::size_t>(formato.allinea)];
   if (formato.puntato) {
     parola("{\\*\\pn\\pnlvlblt\\pnindent", std::abs(formato.primariga));
@@ -153,25 +153,26 @@ void scrittorertf::testo(std::u32string_view testo) {
   for (const char32_t c : testo) aggiungi_segno(corpo_, c);
 }
 
+// A group a run, since some readers lose a format that only the next one ends. The mark is written in its own format.
 void scrittorertf::corpo() {
   std::size_t posto = 0;
   std::size_t fine_tratto = 0;
   auto tratto = testo_.tratti().begin();
   for (const relazione::paragrafo& paragrafo : testo_.paragrafi()) {
     inizia_paragrafo(paragrafo.formato);
-    bool primo = true;
-    // The mark is written too, so that what is typed in front of it later looks the same.
-    for (const std::size_t fine = posto + paragrafo.lunghezza; posto < fine;) {
-      const bool nuovo = posto == fine_tratto;
-      if (nuovo) fine_tratto += tratto++->lunghezza;
-      if (nuovo || primo) carattere(std::prev(tratto)->formato);
-      primo = false;
-      const std::size_t oltre = std::min(fine, fine_tratto);
-      const std::size_t fine_testo = std::min(oltre, fine - 1);
-      testo(std::u32string_view(testo_.testo()).substr(posto, fine_testo - posto));
+    for (const std::size_t segno = posto + paragrafo.lunghezza - 1; posto <= segno;) {
+      if (posto == fine_tratto) fine_tratto += tratto++->lunghezza;
+      carattere(std::prev(tratto)->formato);
+      const std::size_t oltre = std::min(segno, fine_tratto);
+      testo(std::u32string_view(testo_.testo()).substr(posto, oltre - posto));
       posto = oltre;
+      if (posto == segno && posto < fine_tratto) {
+        corpo_ += "\\par";
+        ++posto;
+      }
+      corpo_ += '}';
     }
-    corpo_ += "\\par\n";
+    corpo_ += '\n';
   }
 }
 

@@ -42,19 +42,19 @@ TEST(ScriviRtf, saysWhatOtherProgramsRead) {
   report.aggiungi(U"b", lowered);
   formatoparagrafo format = con_punto({allineamento::centro, 567, 850, 0, false}, 360);
   report.formato_ultimo(format);
-  EXPECT_EQ(
-      scrivi_rtf(report),
-      "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Courier New;}"
-      "{\\f1\\fnil\\fcharset0 Arial;}}\n"
-      "{\\colortbl ;\\red255\\green128\\blue1;}\n"
-      "{\\*\\listtable{\\list\\listtemplateid1\\listsimple1{\\listlevel\\levelnfc23\\leveljc0\\levelstartat1"
-      "\\levelfollow0{\\leveltext\\'01\\u8226 ?;}{\\levelnumbers;}\\fi-360\\li927}\\listid1}}\n"
-      "{\\*\\listoverridetable{\\listoverride\\listid1\\listoverridecount0\\ls1}}\n"
-      "{\\*\\generator Trelvo;}\\viewkind4\n"
-      "{\\pntext\\'95\\tab}\\pard\\qc{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\'95}}\\ilvl0\\ls1\\fi-360\\li927\\ri850"
-      "\\plain\\up5{\\*\\trelvoscost45}\\f0\\fs25\\b\\i\\ul\\strike\\cf1 a\\'80\\u20013?\\u-10179?\\u-8704?\\\\"
-      "\\plain\\dn4\\f1\\fs20 b\\plain\\f1\\fs20 \\par\n"
-      "}\n");
+  EXPECT_EQ(scrivi_rtf(report),
+            "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Courier New;}"
+            "{\\f1\\fnil\\fcharset0 Arial;}}\n"
+            "{\\colortbl ;\\red255\\green128\\blue1;}\n"
+            "{\\*\\listtable{\\list\\listtemplateid1\\listsimple1{\\listlevel\\levelnfc23\\leveljc0\\levelstartat1"
+            "\\levelfollow0{\\leveltext\\'01\\u8226 ?;}{\\levelnumbers;}\\fi-360\\li927}\\listid1}}\n"
+            "{\\*\\listoverridetable{\\listoverride\\listid1\\listoverridecount0\\ls1}}\n"
+            "{\\*\\generator Trelvo;}\\viewkind4\n"
+            "{\\pntext\\'95\\tab}\\pard\\plain\\qc{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\'95}}\\ilvl0\\ls1\\fi-"
+            "360\\li927\\ri850"
+            "{\\up5{\\*\\trelvoscost45}\\f0\\fs25\\b\\i\\ul\\strike\\cf1 a\\'80\\u20013?\\u-10179?\\u-8704?\\\\}"
+            "{\\dn4\\f1\\fs20 b}{\\f1\\fs20 \\par}\n"
+            "}\n");
 }
 
 }  // namespace
