@@ -94,6 +94,39 @@ void relazione::sostituisci(std::size_t inizio, std::size_t tolti, std::u32strin
   if (!testo.empty() && testo.back() == fine_paragrafo) accorda_segno(inizio + testo.size());
 }
 
+void relazione::sostituisci(const std::vector<std::size_t>& posti, std::size_t lunghezza, std::u32string_view testo) {
+  relazione nuova;
+  std::size_t letto = 0;
+  auto di_cui = tratti_.begin();
+  std::size_t fine_tratto = di_cui->lunghezza;
+  const auto formato_letto = [&]() -> const formatocarattere& {
+    while (fine_tratto <= letto) fine_tratto += (++di_cui)->lunghezza;
+    return di_cui->formato;
+  };
+  const auto copia = [&](std::size_t fino) {
+    while (letto < fino) {
+      const formatocarattere& come = formato_letto();
+      const std::size_t oltre = std::min(fino, fine_tratto);
+      nuova.aggiungi(std::u32string_view(testo_).substr(letto, oltre - letto), come);
+      letto = oltre;
+    }
+  };
+  for (const std::size_t posto : posti) {
+    copia(posto);
+    nuova.aggiungi(testo, formato_letto());
+    letto += lunghezza;
+  }
+  copia(testo_.size());
+  nuova.formato_ultimo(tratti_.back().formato);
+  for (std::size_t i = 0; i < paragrafi_.size(); ++i) nuova.paragrafi_[i].formato = paragrafi_[i].formato;
+  *this = std::move(nuova);
+}
+
+void relazione::formati_paragrafi(std::size_t primo, const std::vector<formatoparagrafo>& formati) {
+  const std::size_t quanti = std::min(formati.size(), paragrafi_.size() - primo);
+  for (std::size_t i = 0; i < quanti; ++i) paragrafi_[primo + i].formato = formati[i];
+}
+
 // A paragraph that was opened empty goes on in the format of what was typed before it.
 void relazione::accorda_segno(std::size_t fine) {
   if (fine < testo_.size() && testo_[fine] != fine_paragrafo) return;

@@ -3,6 +3,7 @@
 // is typed into an empty paragraph. So a report of n characters has n + 1 places with a format.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -38,6 +39,9 @@ class relazione {
   const formatocarattere& formato(std::size_t posto) const;
   // The format of what is typed at that place: that of the character before it in its paragraph, else of the one there.
   const formatocarattere& formato_inserimento(std::size_t posto) const;
+  // Each run of a range, as `azione(place, length, format)`.
+  template <class Azione>
+  void per_ogni_tratto(std::size_t inizio, std::size_t lunghezza, Azione&& azione) const;
   // The paragraph that holds a place.
   std::size_t indice_paragrafo(std::size_t posto) const;
 
@@ -55,7 +59,12 @@ class relazione {
   // The same with a format a run; their lengths add up to that of the text.
   void sostituisci(std::size_t inizio, std::size_t tolti, std::u32string_view testo,
                    const std::vector<tratto>& formati);
+  // At many places at once, in order and apart from each other: `lunghezza` characters of each give way, in the format
+  // of the first of them. Neither they nor the text hold the end of a paragraph.
+  void sostituisci(const std::vector<std::size_t>& posti, std::size_t lunghezza, std::u32string_view testo);
 
+  // The formats of the paragraphs from one on.
+  void formati_paragrafi(std::size_t primo, const std::vector<formatoparagrafo>& formati);
   // Runs `cambia` on the format of each run of a range, the last mark included if the range reaches it. Whether a
   // format became another one.
   template <class Cambio>
@@ -75,6 +84,18 @@ class relazione {
   std::vector<tratto> tratti_{{1, {}}};
   std::vector<paragrafo> paragrafi_{{1, {}}};
 };
+
+template <class Azione>
+void relazione::per_ogni_tratto(std::size_t inizio, std::size_t lunghezza, Azione&& azione) const {
+  const std::size_t fine = inizio + lunghezza;
+  std::size_t posto = 0;
+  for (const tratto& t : tratti_) {
+    const std::size_t da = std::max(posto, inizio);
+    posto += t.lunghezza;
+    if (posto > inizio && da < fine) azione(da, std::min(posto, fine) - da, t.formato);
+    if (posto >= fine) break;
+  }
+}
 
 template <class Cambio>
 bool relazione::cambia_caratteri(std::size_t inizio, std::size_t lunghezza, Cambio&& cambia) {

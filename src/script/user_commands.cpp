@@ -142,8 +142,7 @@ void set(Session& session, const Arguments& a) {
   const FoundProperty found = property_named(session, a.text(0));
   std::string value = a.text(1);
   double number = 0;
-  const bool is_text = dynamic_cast<Property<std::string>*>(&found.property) != nullptr;
-  if (!is_text && !read_number(value, number)) throw ScriptFailure("\"" + value + "\" is no number");
+  if (!found.property.holds_text() && !read_number(value, number)) throw ScriptFailure("\"" + value + "\" is no number");
 
   const bool is_value = found.property.name() == std::string_view("Value");
   if (is_value && number != 0 && dynamic_cast<OptionButton*>(found.control) != nullptr) {
