@@ -30,6 +30,7 @@ void carattere_Click(videoscritt& v) {
   dialogo.FontUnderline = testo.SelUnderline;
   dialogo.FontStrikethru = testo.SelStrikeThru;
   dialogo.color = testo.SelColor;
+  dialogo.asks_color = false;
   if (!v.desktop.show_font(dialogo)) return;
   testo.SelFontName = dialogo.FontName;
   testo.SelFontSize = dialogo.FontSize;
@@ -41,12 +42,12 @@ void carattere_Click(videoscritt& v) {
 
 void mnucolor_Click(videoscritt& v) {
   Color colore = v.RichTextBox1.SelColor;
-  if (v.desktop.show_color(colore)) v.RichTextBox1.SelColor = colore;
+  if (v.desktop.show_color_titled(colore, "Select Color")) v.RichTextBox1.SelColor = colore;
 }
 
 void sfondo_Click(videoscritt& v) {
   Color colore = v.RichTextBox1.BackColor;
-  if (v.desktop.show_color(colore)) v.RichTextBox1.BackColor = colore;
+  if (v.desktop.show_color_titled(colore, "Seleziona Colore")) v.RichTextBox1.BackColor = colore;
 }
 
 // Sets the offset, or takes it away where it is there.

@@ -155,6 +155,11 @@ bool DesktopQt::show_font(FontDialog& dialog) {
   return ask_font(parent(), dialog);
 }
 
+bool DesktopQt::show_color_titled(Color& color, const std::string& title) {
+  const Interlude interlude(*this);
+  return ask_color(parent(), color, qt(title));
+}
+
 bool DesktopQt::show_color(Color& color) {
   const Interlude interlude(*this);
   return ask_color(parent(), color);

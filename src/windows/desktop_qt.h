@@ -54,6 +54,7 @@ class DesktopQt : public Desktop {
   bool show_save(CommonDialog& dialog) override;
   bool show_font(FontDialog& dialog) override;
   bool show_color(Color& color) override;
+  bool show_color_titled(Color& color, const std::string& title) override;
   std::string clipboard_text() override;
   void set_clipboard_text(const std::string& text) override;
   Printer& printer() override;
