@@ -83,6 +83,7 @@ struct rigapulsante {
   const char* icona;
   void (*premi)(videoscritt&);
   bool (*stato)(const videoscritt&);  // nullptr for a button that stays up
+  int tasto = 0;
 };
 
 const rigapulsante pulsanti[] = {
@@ -91,14 +92,15 @@ const rigapulsante pulsanti[] = {
     {"Salva", "salva", [](videoscritt& v) { file_Click(v, 3); }, nullptr},
     {},
     {"Taglia", "taglia", [](videoscritt& v) { modifi_Click(v, 2); }, nullptr},
-    {"Copia", "copia_testo", [](videoscritt& v) { modifi_Click(v, 1); }, nullptr},
+    {"Copia", "copia", [](videoscritt& v) { modifi_Click(v, 1); }, nullptr},
     {"Incolla", "incolla", [](videoscritt& v) { modifi_Click(v, 3); }, nullptr},
     {},
     {"Carattere", "testo", carattere_Click, nullptr},
-    {"Grassetto", "grassetto", inverti<&RichTextBox::SelBold>, vale<&RichTextBox::SelBold>},
-    {"Corsivo", "corsivo", inverti<&RichTextBox::SelItalic>, vale<&RichTextBox::SelItalic>},
-    {"Sottolineato", "sottolineato", inverti<&RichTextBox::SelUnderline>, vale<&RichTextBox::SelUnderline>},
-    {"Barrato", "barrato", inverti<&RichTextBox::SelStrikeThru>, vale<&RichTextBox::SelStrikeThru>},
+    {"Grassetto", "grassetto", inverti<&RichTextBox::SelBold>, vale<&RichTextBox::SelBold>, key_control + 'B'},
+    {"Corsivo", "corsivo", inverti<&RichTextBox::SelItalic>, vale<&RichTextBox::SelItalic>, key_control + 'I'},
+    {"Sottolineato", "sottolineato", inverti<&RichTextBox::SelUnderline>, vale<&RichTextBox::SelUnderline>,
+     key_control + 'U'},
+    {"Barrato", "barrato", inverti<&RichTextBox::SelStrikeThru>, vale<&RichTextBox::SelStrikeThru>, key_control + 'K'},
     {},
     {"Allinea a Sinistra", "allinea_sinistra", [](videoscritt& v) { allinea_Click(v, 1); }, allineato<0>},
     {"Centra", "centra", [](videoscritt& v) { allinea_Click(v, 2); }, allineato<2>},
@@ -115,7 +117,7 @@ void collega_pulsanti(videoscritt& v) {
   for (const rigapulsante& riga : pulsanti) {
     ++indice;
     if (riga.nome == nullptr) continue;
-    pulsante& nuovo = v.Toolbar1.add(v, "Toolbar1", indice, riga.nome, riga.icona);
+    pulsante& nuovo = v.Toolbar1.add(v, "Toolbar1", indice, riga.nome, riga.icona, riga.stato != nullptr, riga.tasto);
     nuovo.Click = [&v, &riga] {
       riga.premi(v);
       statopulsanti(v);

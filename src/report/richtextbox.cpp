@@ -233,6 +233,7 @@ void RichTextBox::modificato(std::size_t inizio, std::size_t tolti, std::u32stri
   inizio_ = std::min(inizio_, testo_.lunghezza());
   lunghezza_ = std::min(lunghezza_, testo_.lunghezza() - inizio_);
   cambiato();
+  if (SelChange) SelChange();
 }
 
 }  // namespace trelvo

@@ -2,25 +2,42 @@
 
 #include <array>
 #include <filesystem>
-#include <map>
-
 #include "report/aprisalva.h"
 
 namespace trelvo {
 
 namespace {
 
-using voci = std::map<int, const char*>;
+struct voce {
+  int indice;
+  const char* scritta;
+  int tasto = 0;
+};
 
-const voci voci_file{{1, "Nuovo"},  {2, "Apri"}, {3, "Salva"}, {4, "Salva Con Nome"},
-                     {5, "Chiudi"}, {6, "-"},    {7, "&Esci"}};
-const voci voci_modifica{{1, "C&opia"}, {2, "&Taglia"},        {3, "&Incolla"}, {4, "-"}, {5, "Trova - Sostituisci"},
-                         {6, "-"},      {7, "Seleziona Tutto"}};
-const voci voci_allinea{{1, "Allinea a Sinistra"}, {2, "Centra"},        {3, "Allinea a Destra"}, {4, "-"},
-                        {5, "Rientri Paragrafo"},  {6, "Elenco Puntato"}};
+constexpr voce voci_file[] = {{1, "Nuovo", key_control + 'N'},
+                              {2, "Apri", key_control + 'O'},
+                              {3, "Salva", key_control + 'S'},
+                              {4, "Salva Con Nome", key_control + key_shift + 'S'},
+                              {5, "Chiudi"},
+                              {6, "-"},
+                              {7, "&Esci", key_control + 'Q'}};
+constexpr voce voci_modifica[] = {{1, "C&opia", key_control + 'C'},
+                                  {2, "&Taglia", key_control + 'X'},
+                                  {3, "&Incolla", key_control + 'V'},
+                                  {4, "-"},
+                                  {5, "Trova - Sostituisci", key_control + 'F'},
+                                  {6, "-"},
+                                  {7, "Seleziona Tutto", key_control + 'A'}};
+constexpr voce voci_allinea[] = {{1, "Allinea a Sinistra", key_control + 'L'},
+                                 {2, "Centra", key_control + 'E'},
+                                 {3, "Allinea a Destra", key_control + 'R'},
+                                 {4, "-"},
+                                 {5, "Rientri Paragrafo"},
+                                 {6, "Elenco Puntato", key_control + key_shift + 'L'}};
 
-void aggiungi_voci(Form& form, ControlArray<MenuItem>& dove, const char* nome, const voci& quali, MenuItem& sopra) {
-  for (const auto& [indice, scritta] : quali) dove.add(form, nome, indice, scritta, &sopra);
+template <class Voci>
+void aggiungi_voci(Form& form, ControlArray<MenuItem>& dove, const char* nome, const Voci& quali, MenuItem& sopra) {
+  for (const voce& v : quali) dove.add(form, nome, v.indice, v.scritta, &sopra, v.tasto);
 }
 
 }  // namespace

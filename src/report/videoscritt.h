@@ -14,13 +14,18 @@ namespace trelvo {
 
 // A button of the tool bar; what it stands for holds of the selection while Value is true.
 struct pulsante : Control {
-  pulsante(Form& owner, std::string control, int position, std::string nome, std::string immagine)
+  pulsante(Form& owner, std::string control, int position, std::string nome, std::string immagine, bool resta,
+           int tasto)
       : Control(owner, std::move(control), position),
         Caption(*this, "Caption", std::move(nome)),
-        icona(std::move(immagine)) {}
+        icona(std::move(immagine)),
+        stays(resta),
+        shortcut(tasto) {}
   Property<std::string> Caption;
   Property<bool> Value{*this, "Value", false};
   const std::string icona;
+  const bool stays;    // pressed, while Value is true
+  const int shortcut;  // of a button that no menu repeats, as a menu's
 };
 
 struct videoscritt : Form {
@@ -41,12 +46,12 @@ struct videoscritt : Form {
   ControlArray<MenuItem> modifi;
   MenuItem mnuformato{*this, "mnuformato", no_index, "F&ormato", nullptr};
   MenuItem testo{*this, "testo", no_index, "Testo", &mnuformato};
-  MenuItem carattere{*this, "carattere", no_index, "Carattere", &testo};
+  MenuItem carattere{*this, "carattere", no_index, "Carattere", &testo, key_control + 'D'};
   MenuItem mnucolor{*this, "mnucolor", no_index, "Colore", &testo};
   MenuItem paragrafo{*this, "paragrafo", no_index, "Paragrafo", &mnuformato};
   ControlArray<MenuItem> allinea;
-  MenuItem apice{*this, "apice", no_index, "Apice", &mnuformato};
-  MenuItem pedice{*this, "pedice", no_index, "Pedice", &mnuformato};
+  MenuItem apice{*this, "apice", no_index, "Apice", &mnuformato, key_control + key_shift + 'P'};
+  MenuItem pedice{*this, "pedice", no_index, "Pedice", &mnuformato, key_control + key_shift + 'B'};
   MenuItem sfondo{*this, "sfondo", no_index, "Colore Sfondo", &mnuformato};
 
   CommonDialog CommonDialog1;

@@ -104,7 +104,8 @@ float DesktopQt::screen_width() const {
 
 QWidget* DesktopQt::parent() const {
   QWidget* active = QApplication::activeModalWidget();
-  return active != nullptr ? active : frame_.get();
+  if (active != nullptr) return active;
+  return frame_ ? frame_.get() : main_window_.data();
 }
 
 int DesktopQt::message_box(const std::string& text, Buttons buttons) {
