@@ -95,7 +95,7 @@ ReportView::ReportView(DesktopQt& desktop, videoscritt& form)
   bind_control(desktop_, this, box_, "Testo");
   follow(this, box_.BackColor, [this] { show_back_color(this, box_.BackColor); });
   QObject::connect(document(), &QTextDocument::contentsChange, this,
-                   [this](int begin, int removed, int added) { user_changed(begin, removed, added); });
+                   [this](int begin, int /*removed*/, int added) { user_changed(begin, added); });
   QObject::connect(this, &QTextEdit::selectionChanged, this, [this] { user_selected(); });
   QObject::connect(this, &QTextEdit::cursorPositionChanged, this, [this] { user_selected(); });
   box_.vista = this;
@@ -223,7 +223,7 @@ void ReportView::selezionato() {
 }
 
 // Qt counts the mark of the last paragraph too when it replaces a whole text.
-void ReportView::user_changed(int begin, int /*removed*/, int added) {
+void ReportView::user_changed(int begin, int added) {
   if (showing_) return;
   const int length = document()->characterCount() - 1;
   const int before = units(report().testo());
@@ -231,14 +231,38 @@ void ReportView::user_changed(int begin, int /*removed*/, int added) {
   added = std::min(added, length - begin);
   const int removed = before + added - length;
   if (removed < 0 || begin + removed > before) {
-    begin = 0;
-    added = length;
+    take_over(0, before, length);
+  } else {
+    take_over(begin, removed, added);
   }
-  const int gone = before + added - length;
+}
+
+void ReportView::take_over(int begin, int removed, int added) {
   const std::size_t first = report_place(begin);
-  const std::size_t count = report_place(begin + gone) - first;
+  const std::size_t count = report_place(begin + removed) - first;
   const UserText read = read_text(*document(), begin, begin + added);
   desktop_.run([&] { box_.modificato(first, count, read.characters, read.runs, read.paragraphs); });
+}
+
+void ReportView::step_back(bool back) {
+  {
+    const QScopedValueRollback<bool> showing(showing_, true);
+    if (back) {
+      QTextEdit::undo();
+    } else {
+      QTextEdit::redo();
+    }
+  }
+  take_over(0, units(report().testo()), document()->characterCount() - 1);
+  user_selected();
+}
+
+void ReportView::undo() {
+  if (document()->isUndoAvailable()) step_back(true);
+}
+
+void ReportView::redo() {
+  if (document()->isRedoAvailable()) step_back(false);
 }
 
 void ReportView::user_selected() {
@@ -268,17 +292,21 @@ bool ReportView::ends_bullet(const QKeyEvent& event) const {
 void ReportView::keyPressEvent(QKeyEvent* event) {
   if (ends_bullet(*event)) {
     desktop_.run([&] { box_.SelBullet = false; });
-    return;
+  } else if (event->matches(QKeySequence::Undo)) {
+    undo();
+  } else if (event->matches(QKeySequence::Redo)) {
+    redo();
+  } else {
+    QTextEdit::keyPressEvent(event);
   }
-  QTextEdit::keyPressEvent(event);
 }
 
 void ReportView::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu(this);
-  QAction* undo = menu.addAction("Annulla", this, &QTextEdit::undo);
-  undo->setEnabled(document()->isUndoAvailable());
-  QAction* redo = menu.addAction("Ripeti", this, &QTextEdit::redo);
-  redo->setEnabled(document()->isRedoAvailable());
+  QAction* back = menu.addAction("Annulla", this, [this] { undo(); });
+  back->setEnabled(document()->isUndoAvailable());
+  QAction* again = menu.addAction("Ripeti", this, [this] { redo(); });
+  again->setEnabled(document()->isRedoAvailable());
   menu.addSeparator();
   for (MenuItem* item : form_.mnumodifica.items) {
     if (item->Caption.get() == "-") {

@@ -17,6 +17,9 @@ class ReportView : public QTextEdit, public vistatesto {
   ReportView(DesktopQt& desktop, videoscritt& form);
   ~ReportView() override;
 
+  void undo();
+  void redo();
+
   void sostituito(std::size_t begin, std::size_t removed, std::size_t added) override;
   void caricato() override;
   void formattati(std::size_t begin, std::size_t count) override;
@@ -37,7 +40,11 @@ class ReportView : public QTextEdit, public vistatesto {
   int place_of(std::size_t place) const;
   std::size_t report_place(int place) const;
 
-  void user_changed(int begin, int removed, int added);
+  void user_changed(int begin, int added);
+  // Characters of the report give way to what Qt has in their place.
+  void take_over(int begin, int removed, int added);
+  // Qt does not tell all that an undo changes: the whole text is taken over.
+  void step_back(bool back);
   void user_selected();
   // Puts characters of the report in the place of the cursor's selection.
   void show_characters(QTextCursor& cursor, std::size_t begin, std::size_t count);
