@@ -83,8 +83,8 @@ void lettorertf::chiudi() {
   }
   if (sopra_.empty()) return;
   if (stato_.apre_interna) chiudi_interna();
-  const statortf chiuso = std::move(stato_);
-  stato_ = std::move(sopra_.back());
+  const statortf chiuso = stato_;
+  stato_ = sopra_.back();
   sopra_.pop_back();
   finita_ = sopra_.empty();
   // A numbering is that of the paragraph around it.

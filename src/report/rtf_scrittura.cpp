@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <iterator>
 #include <map>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -201,19 +202,17 @@ std::string scrittorertf::tavola_colori() const {
 // A list for each pair of indents: some readers take them from there and not from the paragraph.
 std::string scrittorertf::tavola_elenchi() const {
   if (elenchi_.valori().empty()) return {};
-  std::string elenchi = "{\\*\\listtable";
-  std::string riferimenti = "{\\*\\listoverridetable";
+  std::ostringstream elenchi;
+  std::ostringstream riferimenti;
   int numero = 0;
   for (const auto& [sinistro, primariga] : elenchi_.valori()) {
-    const std::string n = std::to_string(++numero);
-    elenchi +=
-        "{\\list\\listtemplateid" + n +
-        "\\listsimple1{\\listlevel\\levelnfc23\\leveljc0\\levelstartat1\\levelfollow0{\\leveltext\\'01\\u8226 ?;}"
-        "{\\levelnumbers;}\\fi" +
-        std::to_string(primariga) + "\\li" + std::to_string(sinistro) + "}\\listid" + n + "}";
-    riferimenti += "{\\listoverride\\listid" + n + "\\listoverridecount0\\ls" + n + "}";
+    ++numero;
+    elenchi << "{\\list\\listtemplateid" << numero << "\\listsimple1{\\listlevel\\levelnfc23\\leveljc0\\levelstartat1"
+            << "\\levelfollow0{\\leveltext\\'01\\u8226 ?;}{\\levelnumbers;}\\fi" << primariga << "\\li" << sinistro
+            << "}\\listid" << numero << "}";
+    riferimenti << "{\\listoverride\\listid" << numero << "\\listoverridecount0\\ls" << numero << "}";
   }
-  return elenchi + "}\n" + riferimenti + "}\n";
+  return "{\\*\\listtable" + elenchi.str() + "}\n{\\*\\listoverridetable" + riferimenti.str() + "}\n";
 }
 
 std::string scrittorertf::intestazione() const {
