@@ -10,8 +10,8 @@ distipo& Session::document() const {
   return *doc;
 }
 
-videoscritt& Session::relazione_aperta() const {
-  if (!relazione || !relazione->loaded()) throw ScriptFailure("no report is open");
+videoscritt& Session::open_report() const {
+  if (!report_open()) throw ScriptFailure("no report is open");
   return *relazione;
 }
 

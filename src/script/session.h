@@ -18,7 +18,8 @@ struct Session {
   std::unique_ptr<videoscritt> relazione{};
 
   // The report editor; fails when it is not open.
-  videoscritt& relazione_aperta() const;
+  videoscritt& open_report() const;
+  bool report_open() const { return relazione && relazione->loaded(); }
 
   // The active document; fails when none is open.
   distipo& document() const;

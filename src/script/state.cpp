@@ -114,8 +114,8 @@ const ModuleVariable module_variables[] = {
     {"spescontdef", [](const Session& s) { return shown(s.bas.def.spescontdef); }},
     {"trattcontdef", [](const Session& s) { return shown(s.bas.def.trattcontdef); }},
 
-    {"nomedocumento", [](const Session& s) { return shown(s.relazione_aperta().nomedocumento); }},
-    {"testomodificato", [](const Session& s) { return shown(s.relazione_aperta().testomodificato); }},
+    {"nomedocumento", [](const Session& s) { return shown(s.open_report().nomedocumento); }},
+    {"testomodificato", [](const Session& s) { return shown(s.open_report().testomodificato); }},
 };
 
 template <class Variables>

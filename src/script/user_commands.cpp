@@ -189,7 +189,8 @@ videoscritt& new_report(Session& session) {
 
 // Names count from the folder that the script runs in, which the report leaves for the program's own.
 void report(Session& session, const Arguments& a) {
-  const std::string file = a.count() == 1 ? std::filesystem::absolute(a.text(0)).string() : std::string();
+  std::error_code ignored;
+  const std::string file = a.count() == 1 ? std::filesystem::absolute(a.text(0), ignored).string() : std::string();
   videoscritt& shown = session.relazione ? *session.relazione : new_report(session);
   evento(session.bas, [&] { apri_relazione(shown, file); });
 }
