@@ -189,7 +189,10 @@ void aggiungi_destinazioni(parole& tavola) {
   for (const char* nome : {"footnote", "endnote"}) {
     tavola[nome] = {[](lettorertf& l, const segnortf&) { l.apri_interna(); }, true};
   }
-  tavola["nesttableprops"] = {[](lettorertf&, const segnortf&) {}, true};
+  // Text, or words about the text around, that some writers mark as ignorable.
+  for (const char* nome : {"nesttableprops", "fldrslt", "result"}) {
+    tavola[nome] = {[](lettorertf&, const segnortf&) {}, true};
+  }
   for (const char* nome : {"stylesheet", "info",     "pict",      "header",       "headerl",    "headerr",  "headerf",
                            "footer",     "footerl",  "footerr",   "footerf",      "ftnsep",     "ftnsepc",  "ftncn",
                            "aftnsep",    "aftnsepc", "aftncn",    "fontemb",      "filetbl",    "revtbl",   "objclass",

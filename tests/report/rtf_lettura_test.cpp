@@ -78,6 +78,7 @@ TEST(LeggiRtf, groups) {
       {"a\\bin2147483647 b", "a"},
       {"a{\\header h\\par}{\\footerl f}b", "ab"},
       {"a{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt link}}b", "alinkb"},
+      {"a{\\field{\\*\\fldinst{HYPERLINK}}{\\*\\fldrslt{link}}}b", "alinkb"},
       {"a{\\field{\\fldinst PAGE}{\\fldrslt 1}}b", "a1b"},
       {"a{\\footnote\\pard\\plain note}b", "a[note]b"},
       {"a{\\*\\footnote note}b", "a[note]b"},
