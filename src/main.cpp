@@ -14,6 +14,7 @@
 #include "platform/qt/program_folder.h"
 #include "script/script.h"
 #include "windows/desktop_qt.h"
+#include "windows/report_window.h"
 
 namespace {
 
@@ -33,6 +34,23 @@ int run_script(int argc, char** argv, const trelvo::CommandLine& line) {
   return trelvo::esegui_script(line.script, trelvo::program_folder(line.folder), fonts, sheet);
 }
 
+int run_frame(trelvo::DesktopQt& desktop, trelvo::trelvobas& bas, const std::string& file) {
+  desktop.run([&] { trelvo::Main(bas, file); });
+  const int status = QApplication::exec();
+  desktop.hide_frame();
+  return status;
+}
+
+// The report editor alone: the program ends with it.
+int run_report(trelvo::DesktopQt& desktop, const std::string& folder, const std::string& file) {
+  trelvo::videoscritt report(desktop, folder);
+  trelvo::ReportWindow window(desktop, report);
+  desktop.set_main_window(&window);
+  report.Unloaded = [] { QApplication::quit(); };
+  desktop.run([&] { trelvo::apri_relazione(report, file); });
+  return QApplication::exec();
+}
+
 int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName("Trelvo");
@@ -43,13 +61,11 @@ int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {
     QApplication::installTranslator(&texts);
   }
   trelvo::DesktopQt desktop;
-  trelvo::trelvobas bas(desktop, trelvo::program_folder(line.folder));
+  const std::string folder = trelvo::program_folder(line.folder);
+  trelvo::trelvobas bas(desktop, folder);
   desktop.attach(bas);
   trelvo::prepara(bas);
-  desktop.run([&] { trelvo::Main(bas, line.file); });
-  const int status = QApplication::exec();
-  desktop.hide_frame();
-  return status;
+  return line.report ? run_report(desktop, folder, line.file) : run_frame(desktop, bas, line.file);
 }
 
 }  // namespace

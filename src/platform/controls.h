@@ -223,6 +223,9 @@ constexpr int key_f6 = 117;
 constexpr int key_f7 = 118;
 constexpr int key_f8 = 119;
 constexpr int key_f9 = 120;
+// Added to the code of a letter in a menu's shortcut.
+constexpr int key_control = 0x100;
+constexpr int key_shift = 0x200;
 constexpr int key_enter = 13;
 constexpr int key_escape = 27;
 

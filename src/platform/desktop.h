@@ -34,6 +34,7 @@ struct FontDialog {
   bool FontUnderline = false;
   bool FontStrikethru = false;
   Color color = 0;
+  bool asks_color = true;  // whether the user can choose it
 };
 
 class Desktop : public PropertyOwner {
@@ -59,6 +60,8 @@ class Desktop : public PropertyOwner {
   virtual bool show_save(CommonDialog& dialog) = 0;
   virtual bool show_font(FontDialog& dialog) = 0;
   virtual bool show_color(Color& color) = 0;
+  // The same under a title of its own.
+  virtual bool show_color_titled(Color& color, const std::string& /*title*/) { return show_color(color); }
 
   // Plain text; empty if the clipboard holds none.
   virtual std::string clipboard_text() = 0;

@@ -49,6 +49,8 @@ class PropertyBase {
   virtual std::string shown() const = 0;
   // The reverse of `shown`, texts without their quotes. Error 13 for what cannot be read.
   virtual void assign(const std::string& text) = 0;
+  // Whether the value is a text; all others are read from numbers.
+  virtual bool holds_text() const = 0;
 
   // For as long as the property lives.
   void on_change(std::function<void()> listener);
@@ -63,6 +65,35 @@ class PropertyBase {
   std::vector<std::function<void()>> listeners_;
   std::vector<std::weak_ptr<std::function<void()>>> guests_;
 };
+
+template <class T>
+std::string shown_value(const T& value) {
+  if constexpr (std::is_same_v<T, std::string>) {
+    return trelvo::quoted(value);  // not the standard one, which a text would find
+  } else if constexpr (std::is_same_v<T, bool>) {
+    return value ? "-1" : "0";
+  } else if constexpr (std::is_same_v<T, float>) {
+    return shortest_text(value);
+  } else {
+    return shortest_text(static_cast<double>(value));
+  }
+}
+
+template <class T>
+T value_from(const std::string& text) {
+  if constexpr (std::is_same_v<T, std::string>) {
+    return text;
+  } else {
+    const double number = regional_number(text, RegionalFormat{".", ","});
+    if constexpr (std::is_same_v<T, bool>) {
+      return number != 0;
+    } else if constexpr (std::is_integral_v<T>) {
+      return static_cast<T>(round_to_int32(number));
+    } else {
+      return static_cast<T>(number);
+    }
+  }
+}
 
 template <class T>
 class Property : public PropertyBase {
@@ -86,35 +117,35 @@ class Property : public PropertyBase {
     tell();
   }
 
-  std::string shown() const override {
-    if constexpr (std::is_same_v<T, std::string>) {
-      return trelvo::quoted(value_);  // not the standard one, which a text would find
-    } else if constexpr (std::is_same_v<T, bool>) {
-      return value_ ? "-1" : "0";
-    } else if constexpr (std::is_same_v<T, float>) {
-      return shortest_text(value_);
-    } else {
-      return shortest_text(static_cast<double>(value_));
-    }
-  }
-  void assign(const std::string& text) override {
-    if constexpr (std::is_same_v<T, std::string>) {
-      set(text);
-    } else {
-      const RegionalFormat point{".", ","};
-      const double number = regional_number(text, point);
-      if constexpr (std::is_same_v<T, bool>) {
-        set(number != 0);
-      } else if constexpr (std::is_integral_v<T>) {
-        set(static_cast<T>(round_to_int32(number)));
-      } else {
-        set(static_cast<T>(number));
-      }
-    }
-  }
+  std::string shown() const override { return shown_value(value_); }
+  void assign(const std::string& text) override { set(value_from<T>(text)); }
+  bool holds_text() const override { return std::is_same_v<T, std::string>; }
 
  private:
   T value_;
+};
+
+// A value that its owner holds in its own way.
+template <class T>
+class LinkedProperty : public PropertyBase {
+ public:
+  LinkedProperty(PropertyOwner& owner, const char* name, std::function<T()> get, std::function<void(const T&)> set)
+      : PropertyBase(owner, name), get_(std::move(get)), set_(std::move(set)) {}
+
+  T get() const { return get_(); }
+  operator T() const { return get_(); }
+  LinkedProperty& operator=(const T& value) {
+    set_(value);
+    return *this;
+  }
+
+  std::string shown() const override { return shown_value(get_()); }
+  void assign(const std::string& text) override { set_(value_from<T>(text)); }
+  bool holds_text() const override { return std::is_same_v<T, std::string>; }
+
+ private:
+  std::function<T()> get_;
+  std::function<void(const T&)> set_;
 };
 
 }  // namespace trelvo

@@ -4,6 +4,7 @@
 
 #include "app/app.h"
 #include "platform/text.h"
+#include "report/caratteri.h"
 #include "script/failure.h"
 #include "script/names.h"
 
@@ -12,6 +13,7 @@ namespace trelvo {
 namespace {
 
 constexpr int key_backspace = 8;
+constexpr int key_tab = 9;
 constexpr int key_space = 32;
 
 int code_of(const std::string& character) { return static_cast<unsigned char>(to_code_page(character).front()); }
@@ -50,6 +52,23 @@ void send_character(TextBox& box, int code, const std::string& character) {
   edit(box, passed, passed == code ? character : character_of(passed));
 }
 
+void send_character(RichTextBox& box, int code, const std::string& character) {
+  if (code == key_backspace) {
+    box.cancella_indietro();
+  } else if (code == key_enter || code == key_tab || code >= key_space) {
+    box.scrivi(ripulito(da_utf8(character)));
+  }
+}
+
+template <class Action>
+void for_each_character(const std::string& text, Action&& action) {
+  for (std::size_t at = 0; at < text.size();) {
+    const std::string character = text_left(std::string_view(text).substr(at), 1);
+    at += character.size();
+    action(character);
+  }
+}
+
 [[noreturn]] void takes_no_keys(const Control& control) {
   throw ScriptFailure("\"" + name_of(control) + "\" takes no keys");
 }
@@ -61,6 +80,9 @@ void press_key(Session& session, Control& control, int code) {
   if (auto* box = dynamic_cast<TextBox*>(&control)) {
     session.desktop.set_focus(box);
     evento(session.bas, [&] { send_character(*box, code, code >= key_space ? character_of(code) : std::string()); });
+  } else if (auto* report = dynamic_cast<RichTextBox*>(&control)) {
+    session.desktop.set_focus(report);
+    evento(session.bas, [&] { send_character(*report, code, character_of(code)); });
   } else if (dynamic_cast<Button*>(&control) != nullptr || dynamic_cast<OptionButton*>(&control) != nullptr) {
     if (code == key_enter || code == key_space) click_control(session, control);
   } else {
@@ -84,11 +106,18 @@ void type_text(Session& session, TextBox& box, const std::string& text) {
       box.Text = std::string();
     });
   }
-  for (std::size_t at = 0; at < text.size();) {
-    const std::string character = text_left(std::string_view(text).substr(at), 1);
-    at += character.size();
+  for_each_character(text, [&](const std::string& character) {
     evento(session.bas, [&] { send_character(box, code_of(character), character); });
-  }
+  });
+}
+
+void type_text(Session& session, RichTextBox& box, const std::string& text) {
+  session.desktop.set_focus(&box);
+  evento(session.bas, [&] { box.Text = std::string(); });
+  for_each_character(text, [&](const std::string& character) {
+    const int code = character == "\n" ? key_enter : code_of(character);
+    evento(session.bas, [&] { send_character(box, code, character); });
+  });
 }
 
 void click_control(Session& session, Control& control) {

@@ -13,6 +13,7 @@ void press_key_down(Session& session, Control& control, int code);
 
 // Empties the box and sends each character as a key.
 void type_text(Session& session, TextBox& box, const std::string& text);
+void type_text(Session& session, RichTextBox& box, const std::string& text);
 
 // Presses a button or an option, clicks any other control.
 void click_control(Session& session, Control& control);

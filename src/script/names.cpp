@@ -74,6 +74,7 @@ IndexedName indexed_name(std::string_view text) {
 Form& form_named(const Session& session, std::string_view name) {
   if (name == session.bas.frmMain.name) return session.bas.frmMain;
   if (name == "distipo") return session.document();
+  if (name == "videoscritt" && session.report_open()) return session.open_report();
   for (Form* dialog : session.desktop.dialogs()) {
     if (name == dialog->name) return *dialog;
   }
@@ -119,6 +120,7 @@ MenuItem& menu_named(const Session& session, std::string_view name, int index) {
     const distipo* doc = session.bas.attivo();
     if (doc != nullptr) item = menu_of(*doc, name, index);
     if (item == nullptr) item = menu_of(session.bas.frmMain, name, index);
+    if (item == nullptr && session.report_open()) item = menu_of(*session.relazione, name, index);
   }
   if (item == nullptr)
     missing("menu item", index == no_index ? std::string(name) : std::string(name) + "(" + std::to_string(index) + ")");

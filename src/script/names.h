@@ -15,7 +15,7 @@ struct IndexedName {
 };
 IndexedName indexed_name(std::string_view text);
 
-// frmMain, distipo for the active document, or a dialog that is open.
+// frmMain, distipo for the active document, videoscritt, or a dialog that is open.
 Form& form_named(const Session& session, std::string_view name);
 
 // "frmMain.Text1", "distipo.aiutdis(4)".
@@ -32,7 +32,7 @@ FoundProperty property_named(const Session& session, std::string_view name);
 // The value of a property as it is printed, those of its surface and the rows of a list included.
 std::string shown_property(const Session& session, std::string_view name);
 
-// Looked for in the active document, then in the frame; "distipo.file" in that form only.
+// Looked for in the active document, the frame, then the report editor; "distipo.file" in that form only.
 MenuItem& menu_named(const Session& session, std::string_view name, int index);
 
 // Its form and name, as in "frmMain.Text1".

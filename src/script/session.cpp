@@ -10,6 +10,11 @@ distipo& Session::document() const {
   return *doc;
 }
 
+videoscritt& Session::open_report() const {
+  if (!report_open()) throw ScriptFailure("no report is open");
+  return *relazione;
+}
+
 namespace {
 
 // `target` gives the name in front of each call.

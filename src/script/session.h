@@ -1,7 +1,10 @@
 // What the lines of a script act on.
 #pragma once
 
+#include <memory>
+
 #include "document/trelvobas.h"
+#include "report/videoscritt.h"
 #include "script/desktop_script.h"
 #include "script/output.h"
 
@@ -12,6 +15,11 @@ struct Session {
   DesktopScript& desktop;
   Output& output;
   bool tracing = false;
+  std::unique_ptr<videoscritt> relazione{};
+
+  // The report editor; fails when it is not open.
+  videoscritt& open_report() const;
+  bool report_open() const { return relazione && relazione->loaded(); }
 
   // The active document; fails when none is open.
   distipo& document() const;

@@ -113,6 +113,9 @@ const ModuleVariable module_variables[] = {
     {"colcontdef", [](const Session& s) { return shown(s.bas.def.colcontdef); }},
     {"spescontdef", [](const Session& s) { return shown(s.bas.def.spescontdef); }},
     {"trattcontdef", [](const Session& s) { return shown(s.bas.def.trattcontdef); }},
+
+    {"nomedocumento", [](const Session& s) { return shown(s.open_report().nomedocumento); }},
+    {"testomodificato", [](const Session& s) { return shown(s.open_report().testomodificato); }},
 };
 
 template <class Variables>

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <filesystem>
 
 #include "app/app.h"
 #include "script/commands.h"
@@ -122,6 +123,10 @@ void move_over_control(Session& session, const Arguments& a) {
 }
 
 void type(Session& session, const Arguments& a) {
+  if (auto* report = dynamic_cast<RichTextBox*>(&control_named(session, a.text(0)))) {
+    type_text(session, *report, a.text(1));
+    return;
+  }
   auto* box = dynamic_cast<TextBox*>(&control_named(session, a.text(0)));
   if (box == nullptr) throw ScriptFailure("\"" + a.text(0) + "\" is no text box");
   type_text(session, *box, a.text(1));
@@ -142,8 +147,8 @@ void set(Session& session, const Arguments& a) {
   const FoundProperty found = property_named(session, a.text(0));
   std::string value = a.text(1);
   double number = 0;
-  const bool is_text = dynamic_cast<Property<std::string>*>(&found.property) != nullptr;
-  if (!is_text && !read_number(value, number)) throw ScriptFailure("\"" + value + "\" is no number");
+  if (!found.property.holds_text() && !read_number(value, number))
+    throw ScriptFailure("\"" + value + "\" is no number");
 
   const bool is_value = found.property.name() == std::string_view("Value");
   if (is_value && number != 0 && dynamic_cast<OptionButton*>(found.control) != nullptr) {
@@ -168,6 +173,26 @@ void activate(Session& session, const Arguments& a) {
   }
   distipo& doc = *windows[static_cast<std::size_t>(number)];
   if (session.bas.attivo() != &doc) evento(session.bas, [&] { attivata(session.bas, doc); });
+}
+
+videoscritt& new_report(Session& session) {
+  const std::filesystem::path settings = session.bas.fileini;
+  session.relazione = std::make_unique<videoscritt>(session.desktop, settings.parent_path().string());
+  videoscritt& made = *session.relazione;
+  made.Visible.on_change([&session, &made] {
+    session.output.line((made.Visible ? "show " : "unload ") + made.name);
+    const Control* focus = session.desktop.focus();
+    if (!made.Visible && focus != nullptr && &focus->form == &made) session.desktop.set_focus(nullptr);
+  });
+  return made;
+}
+
+// Names count from the folder that the script runs in, which the report leaves for the program's own.
+void report(Session& session, const Arguments& a) {
+  std::error_code ignored;
+  const std::string file = a.count() == 1 ? std::filesystem::absolute(a.text(0), ignored).string() : std::string();
+  videoscritt& shown = session.relazione ? *session.relazione : new_report(session);
+  evento(session.bas, [&] { apri_relazione(shown, file); });
 }
 
 }  // namespace
@@ -196,6 +221,7 @@ void add_user_commands(ScriptCommands& commands) {
   commands["type"] = {2, 2, type};
   commands["set"] = {2, 2, set};
 
+  commands["report"] = {0, 1, report};
   commands["activate"] = {1, 1, activate};
   commands["close"] = {0, 0, [](Session& s, const Arguments&) {
                          distipo& doc = s.document();

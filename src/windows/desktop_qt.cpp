@@ -104,7 +104,8 @@ float DesktopQt::screen_width() const {
 
 QWidget* DesktopQt::parent() const {
   QWidget* active = QApplication::activeModalWidget();
-  return active != nullptr ? active : frame_.get();
+  if (active != nullptr) return active;
+  return frame_ ? frame_.get() : main_window_.data();
 }
 
 int DesktopQt::message_box(const std::string& text, Buttons buttons) {
@@ -153,6 +154,11 @@ bool DesktopQt::show_save(CommonDialog& dialog) {
 bool DesktopQt::show_font(FontDialog& dialog) {
   const Interlude interlude(*this);
   return ask_font(parent(), dialog);
+}
+
+bool DesktopQt::show_color_titled(Color& color, const std::string& title) {
+  const Interlude interlude(*this);
+  return ask_color(parent(), color, qt(title));
 }
 
 bool DesktopQt::show_color(Color& color) {

@@ -24,6 +24,8 @@ class DesktopQt : public Desktop {
   void attach(trelvobas& bas) { bas_ = &bas; }
   trelvobas& bas() { return *bas_; }
 
+  // A window that stands in the place of the frame; dialogs open over it.
+  void set_main_window(QWidget* window) { main_window_ = window; }
   // Takes the frame away, before the program it shows.
   void hide_frame();
 
@@ -54,6 +56,7 @@ class DesktopQt : public Desktop {
   bool show_save(CommonDialog& dialog) override;
   bool show_font(FontDialog& dialog) override;
   bool show_color(Color& color) override;
+  bool show_color_titled(Color& color, const std::string& title) override;
   std::string clipboard_text() override;
   void set_clipboard_text(const std::string& text) override;
   Printer& printer() override;
@@ -76,6 +79,7 @@ class DesktopQt : public Desktop {
   FontServiceQt fonts_;
   std::unique_ptr<PrinterQt> printer_;  // looked for when first asked for
   std::unique_ptr<FrameWindow> frame_;
+  QPointer<QWidget> main_window_;
   std::unordered_map<const Control*, QPointer<QWidget>> widgets_;
 };
 

@@ -147,7 +147,7 @@ void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form) {
       {"zoomp", lay_out_zoomp},         {"impost", lay_out_impost},       {"Selcol", lay_out_Selcol},
       {"barprog", lay_out_barprog},     {"TipoLinea", lay_out_TipoLinea}, {"TipoSuperficie", lay_out_TipoSuperficie},
       {"Geststamp", lay_out_Geststamp}, {"Spesslin", lay_out_Spesslin},   {"Gesttesto", lay_out_Gesttesto},
-      {"CoordVert", lay_out_CoordVert}};
+      {"CoordVert", lay_out_CoordVert}, {"trova", lay_out_trova},         {"rientri", lay_out_rientri}};
   layouts.at(form.name)(desktop, dialog, form);
 }
 

@@ -17,5 +17,7 @@ void lay_out_Gesttesto(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_Geststamp(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_Spesslin(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_CoordVert(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_trova(DesktopQt& desktop, FormDialog& dialog, Form& form);
+void lay_out_rientri(DesktopQt& desktop, FormDialog& dialog, Form& form);
 
 }  // namespace trelvo

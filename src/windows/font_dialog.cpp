@@ -70,6 +70,7 @@ bool ask_font(QWidget* parent, FontDialog& dialog) {
   const QFont opened = fonts->currentFont();
   auto* color_button = new QPushButton("C&olore...");
   color_button->setAutoDefault(false);
+  color_button->setVisible(dialog.asks_color);
   Color color = dialog.color;
   show_color_on(color_button, color);
   QObject::connect(color_button, &QPushButton::clicked, &box, [&] {
@@ -78,6 +79,9 @@ bool ask_font(QWidget* parent, FontDialog& dialog) {
   auto* buttons = new QDialogButtonBox;
   buttons->addButton("OK", QDialogButtonBox::AcceptRole)->setDefault(true);
   buttons->addButton("Annulla", QDialogButtonBox::RejectRole);
+  // Enter and Esc in one of its lists are taken by the dialog inside.
+  QObject::connect(fonts, &QDialog::accepted, &box, &QDialog::accept);
+  QObject::connect(fonts, &QDialog::rejected, &box, &QDialog::reject);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
 

@@ -17,18 +17,22 @@ QString title_of(const std::string& caption) {
   return qt(caption).replace(blanks, "  ");
 }
 
-QKeySequence shortcut_of(const MenuItem& item) {
-  constexpr int code_f1 = 112;
-  if (item.shortcut < code_f1) return {};
-  return QKeySequence(Qt::Key_F1 + (item.shortcut - code_f1));
-}
-
 void sync(QAction* action, const MenuItem& item) {
   action->setCheckable(item.Checked);
   action->setChecked(item.Checked);
 }
 
 }  // namespace
+
+QKeySequence shortcut_of(int shortcut) {
+  constexpr int code_f1 = 112;
+  if ((shortcut & key_control) != 0) {
+    const int shift = (shortcut & key_shift) != 0 ? static_cast<int>(Qt::SHIFT) : 0;
+    return QKeySequence(static_cast<int>(Qt::CTRL) | shift | (shortcut & 0xFF));
+  }
+  if (shortcut < code_f1) return {};
+  return QKeySequence(Qt::Key_F1 + (shortcut - code_f1));
+}
 
 void MenuSet::add_item(QMenu& menu, MenuItem& item) {
   if (item.Caption.get() == "-") {
@@ -38,7 +42,7 @@ void MenuSet::add_item(QMenu& menu, MenuItem& item) {
   QAction* action = nullptr;
   if (item.items.empty()) {
     action = menu.addAction(title_of(item.Caption));
-    action->setShortcut(shortcut_of(item));
+    action->setShortcut(shortcut_of(item.shortcut));
     QObject::connect(action, &QAction::triggered, action, [this, alive = alive_, &item, action] {
       desktop_.run([&] { scegli(item); });
       if (*alive) sync(action, item);

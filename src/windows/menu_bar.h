@@ -1,6 +1,7 @@
 // Menus of a form as a Qt menu bar.
 #pragma once
 
+#include <QKeySequence>
 #include <QMenuBar>
 #include <functional>
 #include <memory>
@@ -11,6 +12,9 @@
 namespace trelvo {
 
 class DesktopQt;
+
+// The keys of a menu item's shortcut; none for 0.
+QKeySequence shortcut_of(int shortcut);
 
 // The menus of one form in a menu bar. Its items may go away, with the document they belong to, while one of them is
 // still at work: nothing touches them once this object is gone.

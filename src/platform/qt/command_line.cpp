@@ -20,6 +20,7 @@ class Reader {
   CommandLine read() {
     while (next_ < arguments_.size()) take(arguments_[next_++]);
     if (!line_.script.empty() && !line_.file.empty()) throw CommandLineError("--script non vuole un FILE da aprire");
+    if (!line_.script.empty() && line_.report) throw CommandLineError("--script non vuole --relazione");
     return line_;
   }
 
@@ -33,6 +34,8 @@ class Reader {
       line_.help = true;
     } else if (argument == "--version") {
       line_.version = true;
+    } else if (argument == "--relazione") {
+      line_.report = true;
     } else if (!take_value(argument, "--folder", line_.folder) && !take_value(argument, "--script", line_.script)) {
       throw CommandLineError("opzione sconosciuta: " + argument);
     }
@@ -71,10 +74,12 @@ CommandLine read_command_line(const std::vector<std::string>& arguments) { retur
 
 std::string usage() {
   return "Uso: trelvo [--folder DIR] [FILE]\n"
+         "     trelvo [--folder DIR] --relazione [FILE]\n"
          "     trelvo [--folder DIR] --script FILE|-\n"
          "\n"
          "  FILE           disegno da aprire (.DIS o .txt)\n"
          "  --folder DIR   cartella del programma, dove si trova Trelvo.ini\n"
+         "  --relazione    la videoscrittura, sola; FILE è il suo documento (.RTF o testo)\n"
          "  --script FILE  esegue i comandi di FILE, o dello standard input (-), senza finestre\n"
          "  --help         mostra questo testo\n"
          "  --version      mostra la versione\n";

@@ -8,9 +8,10 @@
 namespace trelvo {
 
 struct CommandLine {
-  std::string folder;  // empty: the program chooses
-  std::string script;  // "-" for standard input; empty: the windows
-  std::string file;    // absolute; empty: none
+  std::string folder;   // empty: the program chooses
+  std::string script;   // "-" for standard input; empty: the windows
+  std::string file;     // absolute; empty: none
+  bool report = false;  // the report editor alone; `file` is its document
   bool help = false;
   bool version = false;
 };

@@ -31,14 +31,24 @@ TEST(CommandLine, Read) {
     EXPECT_FALSE(line.help || line.version);
   }
   EXPECT_TRUE(read_command_line({"--help"}).help);
+  const CommandLine report = read_command_line({"--relazione", "a.rtf"});
+  EXPECT_TRUE(report.report);
+  EXPECT_EQ(report.file, here + "/a.rtf");
   EXPECT_TRUE(read_command_line({"--version"}).version);
 }
 
 TEST(CommandLine, Refused) {
   const std::vector<std::string> table[] = {
-      {"--wrong"},     {"-x"},       {"--folder"},
-      {"--folder="},   {"--script"}, {"--script=", "x"},
-      {"a", "b"},      {"\"\""},     {"--script", "s", "f.DIS"},
+      {"--wrong"},
+      {"-x"},
+      {"--folder"},
+      {"--folder="},
+      {"--script"},
+      {"--script=", "x"},
+      {"a", "b"},
+      {"\"\""},
+      {"--script", "s", "f.DIS"},
+      {"--script", "s", "--relazione"},
       {"--folders=x"},
   };
   for (const auto& arguments : table) {
