@@ -1,4 +1,5 @@
-// Import of text drawings and export of DXF files, in bytes of the file a second.
+// Import of text drawings and export of DXF files, in bytes of the file a second, with the most memory that the program
+// held meanwhile, drawing included.
 
 #include <benchmark/benchmark.h>
 
@@ -11,6 +12,7 @@
 #include "files/dxf_comando.h"
 #include "files/txt_documento.h"
 #include "files/txt_lettura.h"
+#include "memoria_bench.h"
 #include "programma_bench.h"
 
 namespace trelvo {
@@ -89,6 +91,8 @@ std::string file_txt(const benchmark::State& stato) {
 }
 
 void conta(benchmark::State& stato, const std::string& nome) {
+  stato.counters["memoria"] = benchmark::Counter(static_cast<double>(memoria_massima()), benchmark::Counter::kDefaults,
+                                                 benchmark::Counter::OneK::kIs1024);
   stato.SetBytesProcessed(stato.iterations() * static_cast<std::int64_t>(std::filesystem::file_size(nome)));
   stato.SetItemsProcessed(stato.iterations() * stato.range(0));
 }
@@ -96,6 +100,7 @@ void conta(benchmark::State& stato, const std::string& nome) {
 // The file into objects.
 void leggi_txt(benchmark::State& stato) {
   const std::string nome = file_txt(stato);
+  azzera_memoria_massima();
   for (auto _ : stato) {
     fileaperto file(nome, fileaperto::modo::lettura);
     righetxt righe([&](std::span<std::byte> dove) { return file.leggi(dove); });
@@ -111,6 +116,7 @@ void leggi_txt(benchmark::State& stato) {
 // The whole import, until the drawing is on the screen.
 void importa_txt(benchmark::State& stato) {
   const std::string nome = file_txt(stato);
+  azzera_memoria_massima();
   for (auto _ : stato) {
     programma p(cartella_bench());
     p.doc().Caption = nome;
@@ -121,6 +127,7 @@ void importa_txt(benchmark::State& stato) {
 }
 
 void esporta_dxf(benchmark::State& stato) {
+  azzera_memoria_massima();
   programma p(cartella_bench());
   p.doc().Caption = file_txt(stato);
   leggitxt(p.doc());
