@@ -89,6 +89,8 @@ void fileaperto::scrivi(std::span<const std::byte> dati) {
   }
 }
 
+void fileaperto::svuota() { [[maybe_unused]] const int esito = ::ftruncate(descrittore_, 0); }
+
 void fileaperto::prendi_diritti(unsigned diritti) {
   [[maybe_unused]] const int esito = ::fchmod(descrittore_, static_cast<mode_t>(diritti & 0777U));
 }

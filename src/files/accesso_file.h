@@ -29,6 +29,8 @@ class fileaperto {
   std::size_t leggi(std::span<std::byte> dove);
   // All of it.
   void scrivi(std::span<const std::byte> dati);
+  // Nothing of it is left, as far as the system lets.
+  void svuota();
   // Gives the file the rights of another one, as far as the system lets.
   void prendi_diritti(unsigned diritti);
   // Closed, and told if that fails; `completa` first brings everything to the disk.

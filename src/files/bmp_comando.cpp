@@ -19,8 +19,14 @@ void creabmp(distipo& doc) {
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
   const std::string immagine = bmp_bytes(doc.surface.Image());
   fileaperto file(nome, fileaperto::modo::vuotato);
-  file.scrivi(std::as_bytes(std::span(immagine)));
-  file.chiudi();
+  try {
+    file.scrivi(std::as_bytes(std::span(immagine)));
+    file.completa();
+  } catch (const RuntimeError&) {
+    // Half a picture would open like a whole one.
+    file.svuota();
+    throw;
+  }
 }
 
 }  // namespace trelvo

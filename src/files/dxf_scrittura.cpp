@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "geometry/misure.h"
 #include "model/tavolozza.h"
 #include "platform/numbers.h"
+#include "platform/runtime_error.h"
 #include "platform/text.h"
 
 namespace trelvo {
@@ -36,6 +38,7 @@ class scrittore {
   void fine() {
     metti(" 0 \nENDSEC\n 0 \nEOF\n");
     svuota();
+    if (!finiti_) throw RuntimeError(error_overflow);
   }
 
   void entita(const Linea& o) {
@@ -100,6 +103,7 @@ class scrittore {
     valore("20\n", ymaxdis_ - y);
   }
   void valore(std::string_view codice, double numero) {
+    finiti_ = finiti_ && std::isfinite(numero);
     metti(codice);
     dove_ = scrivi_numero(dove_, numero);
     *dove_++ = '\n';
@@ -135,6 +139,7 @@ class scrittore {
   const consegna& scarica_;
   std::vector<char> blocco_;
   char* dove_ = blocco_.data();
+  bool finiti_ = true;  // all numbers so far
 };
 
 void aggiorna_raggio(Cerchio& o) {

@@ -14,7 +14,7 @@ namespace trelvo {
 int SELCOLxDXF(Color colore);
 
 // Hands the file over piece by piece. Heights are counted up from `ymaxdis`, in drawing units. Radii are brought up to
-// date. Whatever `scarica` throws comes through.
+// date. Whatever `scarica` throws comes through; error 6, when all is written, if a number was out of range.
 void scrivi_dxf(disegno& dis, double ymaxdis, const std::function<void(std::span<const std::byte>)>& scarica);
 
 }  // namespace trelvo

@@ -79,10 +79,11 @@ TEST(BmpComando, QuestionsAndRefusals) {
   EXPECT_TRUE(p.desktop.messages.empty());
 }
 
-TEST(BmpComando, FailedWritingIsAnError) {
+TEST(BmpComando, FailedWritingIsAnErrorAndLeavesNoHalfPicture) {
   Picture p;
   const FullDisk full(100000);
   EXPECT_EQ(p.save(), error_disk_full);
+  EXPECT_EQ(std::filesystem::file_size(p.name), 0U);
   EXPECT_EQ(p.desktop.MousePointer, pointer_default);
 }
 

@@ -58,6 +58,19 @@ TEST(DxfComando, HeightAsItWasLeft) {
   EXPECT_EQ(p.doc.vista.ymaxdis, 90);
 }
 
+TEST(DxfComando, NumbersOutOfRangeAreToldAndTheRestIsWritten) {
+  TestProgram p;
+  add(p.doc, line(1, 2, 3, -1.7e308));
+  add(p.doc, circle(0, 0, 1e200));
+  add(p.doc, surface({{5, 5}}));
+  p.doc.vista.ymaxdis = 1.7e308;
+  const std::string name = p.folder / "a.dxf";
+  p.desktop.files = {name};
+  crea_dxf(p.doc);
+  EXPECT_EQ(p.desktop.messages, std::vector<std::string>{"Errore nella creazione del file:" + name});
+  EXPECT_TRUE(read_bytes(name).ends_with("SEQEND\n8\n0\n 0 \nENDSEC\n 0 \nEOF\n"));
+}
+
 TEST(DxfComando, FailedWritingIsToldOnceAndKeepsWhatThereIs) {
   TestProgram p;
   for (int i = 0; i < 20000; ++i) add(p.doc, line(1, 2, 3, 4));
