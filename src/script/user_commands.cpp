@@ -180,7 +180,6 @@ videoscritt& new_report(Session& session) {
   session.relazione = std::make_unique<videoscritt>(session.desktop, settings.parent_path().string());
   videoscritt& made = *session.relazione;
   made.Visible.on_change([&session, &made] {
-    session.output.line((made.Visible ? "show " : "unload ") + made.name);
     const Control* focus = session.desktop.focus();
     if (!made.Visible && focus != nullptr && &focus->form == &made) session.desktop.set_focus(nullptr);
   });
