@@ -78,7 +78,6 @@ set videoscritt.RichTextBox1.SelStart 14
 get videoscritt.RichTextBox1.SelBullet
 END
 cat >"$folder/expected" <<'END'
-show videoscritt
 videoscritt.RichTextBox1.Text = "uno due\ntre\nquattro"
 videoscritt.RichTextBox1.SelBold = -1
 videoscritt.RichTextBox1.SelBold = 0
