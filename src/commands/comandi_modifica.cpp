@@ -193,6 +193,7 @@ void esegui_modifica(distipo& doc, int& n) {
     annullacomando(doc, n);
     return;
   }
+  cmd.modificato = 1;
   redraw(doc);
   cmd.ultimocomando = nome;
   ++n;
@@ -232,7 +233,7 @@ bool aggancio_stira(const distipo& doc) { return doc.cmd.passo > passo_seconda; 
 // ---- resuming after a zoom
 
 void riprendi_selezione(distipo& doc, int indice) {
-  modifica_Click(doc, indice);
+  avvia_modifica(doc, indice);
   doc.cmd.ntrovati = conta_selezionati(doc);
 }
 

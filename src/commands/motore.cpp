@@ -4,6 +4,7 @@
 #include "commands/deselezione.h"
 #include "commands/prompt.h"
 #include "model/tavolozza.h"
+#include "platform/numbers.h"
 #include "view/mappa.h"
 #include "view/redraw.h"
 
@@ -78,6 +79,7 @@ void zoom_da_parte(distipo& doc, const std::function<void()>& azione) {
 }  // namespace
 
 void avvia_comando(distipo& doc, const std::string& nome) {
+  abbandona_sospeso(doc);
   if (!doc.cmd.comando().empty()) annullacomando(doc, doc.cmd.livello);
   doc.cmd.corrente().tipo(nome);
   doc.cmd.modificato = 1;
@@ -134,6 +136,9 @@ void clicksin(distipo& doc, float& X, float& Y) {
     f.xfiltro = 0;
     f.yfiltro = 0;
   }
+  // A point that the window's units cannot hold would make an object that no file gives back.
+  X = to_float(X);
+  Y = to_float(Y);
   if (c->clic != nullptr) c->clic(doc, X, Y);
 }
 
@@ -177,6 +182,8 @@ void gestastiera(distipo& doc, int KeyAscii) {
   const comando* c = comando_corrente(doc);
   if (KeyAscii != key_escape || c == nullptr) return;
   if (sospeso(doc) && doc.cmd.comandosospeso.tipo() != c->nome) {
+    // Nothing of the zoom is left on the command line.
+    annullacomando(doc, doc.cmd.livello);
     ripristinatrasparente(doc);
   } else if (c->esc_annulla) {
     annullacomando(doc, doc.cmd.livello);
@@ -220,6 +227,13 @@ void ripristinatrasparente(distipo& doc) {
   doc.surface.set_AutoRedraw(true);
   if (c->riprendi_passo != nullptr) c->riprendi_passo(doc);
   azzera_sospeso(doc);
+}
+
+void abbandona_sospeso(distipo& doc) {
+  if (!sospeso(doc)) return;
+  const bool stira = doc.cmd.comandosospeso.tipo() == "Stira";
+  azzera_sospeso(doc);
+  if (deseleziona(doc.dis, stira)) redraw(doc);
 }
 
 void con_comando_da_parte(distipo& doc, const std::function<void()>& azione) {

@@ -115,7 +115,8 @@ bool prompt_fits(const std::string& command, int step, const std::string& text) 
 
 bool second_prompt_fits(const std::string& command, int step, const std::string& text) {
   if (changes_objects(command)) return true;  // says also how a selection went
-  if (step == 0) return text.empty();
+  // A command taken up again after a zoom shows its second prompt from its third point on.
+  if (text.empty() || step == 0) return text.empty() && step <= 1;
   if (command == "Linea" || command == "Distanza-Angolo") return text == "Al Punto: ";
   if (command == "Cerchio") return text == "Raggio: ";
   if (command == "Arco") return text == (step == 1 ? " Arco_Secondo Punto(P.Finale): " : " Arco_Terzo Punto: ");
@@ -181,6 +182,9 @@ void Invariants::lost_objects(const distipo& doc, Seen& seen) {
           "objects were deleted by no command");
   const bool same = fewer || figures(doc.dis, seen.objects) == seen.figures || seen.figures == 0;
   require(same || may_have_run(changes_objects), "objects were changed by no command");
+  const bool first = !seen.met;
+  require(first || (same && now == seen.objects) || doc.cmd.modificato == 1, "a changed drawing would close unasked");
+  seen.met = true;
   seen.objects = now;
   seen.deleted = deleted;
   seen.figures = figures(doc.dis, now);

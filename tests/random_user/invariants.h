@@ -20,6 +20,7 @@ class Invariants {
  private:
   // What a document held when it was looked at last.
   struct Seen {
+    bool met = false;
     std::array<std::size_t, 7> objects{};
     std::size_t deleted = 0;
     std::uint64_t figures = 0;  // of the objects that were there

@@ -135,12 +135,14 @@ void RandomLines::point() {
 
 void RandomLines::finish() {
   const distipo& doc = *session_.bas.attivo();
+  const int what = dice_.number(1, 10);
   if (doc.cmd.comando() == "Proprietà Oggetto" && doc.cmd.ntrovati > 0) {
+    confirms_ = what <= 6;
     for (const char* form : {"TipoLinea", "TipoSuperficie", "Gesttesto"}) {
       if (dice_.chance(80)) dialog(form, dialog_lines(form));
     }
+    confirms_ = false;
   }
-  const int what = dice_.number(1, 10);
   if (what <= 6) {
     say("right " + coordinate() + " " + coordinate());
   } else if (what <= 8) {
@@ -279,15 +281,17 @@ RandomLines::Lines RandomLines::dialog_lines(const std::string& form) {
 }
 
 // Vertices that the dialog lists when it is shown for what is selected now; 0 if that is not one outline.
-int RandomLines::rows_of_selection() const {
+int RandomLines::rows_of_selection(const std::string& form) const {
   const distipo& doc = *session_.bas.attivo();
-  if (doc.cmd.comando() != "Proprietà Oggetto") return 0;
+  if (!confirms_) return 0;
   int selected = 0;
   int rows = 0;
   visita<superficie, Rettangolo, Linea, polilinea, testo, Arco, Cerchio>(doc.dis, [&](const auto& o) {
     if (o.stato != stato_selezionato) return;
     ++selected;
-    if constexpr (requires { o.vertici; }) rows = o.vertic();
+    if constexpr (requires { o.vertici; }) {
+      if ((form == "TipoSuperficie") == requires { o.campitura; }) rows = o.vertic();
+    }
   });
   return selected == 1 ? rows : 0;
 }
@@ -295,7 +299,7 @@ int RandomLines::rows_of_selection() const {
 void RandomLines::vertex_buttons(const std::string& form, Lines& lines) {
   const auto waits = waiting_.find(form);
   const bool next = waits == waiting_.end() || waits->second == 0;
-  const int rows = next && lines.empty() ? rows_of_selection() : 0;
+  const int rows = next && lines.empty() ? rows_of_selection(form) : 0;
   if (rows > 0) {
     lines.push_back("set " + form + ".List1(" + dice_.one_of({"0", "1"}) + ").ListIndex " +
                     std::to_string(dice_.number(0, rows - 1)));

@@ -52,12 +52,13 @@ class RandomLines {
   Lines vertex_lines();
   Lines percent_lines();
   void vertex_buttons(const std::string& form, Lines& lines);
-  int rows_of_selection() const;
+  int rows_of_selection(const std::string& form) const;
 
   Session& session_;
   Dice dice_;
   Lines lines_;
   std::map<std::string, int> waiting_;  // blocks of lines given for a form and not yet taken
+  bool confirms_ = false;               // the step at hand shows the properties of what is selected
   int saved_ = 0;
 };
 

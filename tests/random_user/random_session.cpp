@@ -21,13 +21,15 @@ class Reopening {
  public:
   Reopening(const Session& session, Played& played) : session_(session), played_(played) {}
 
-  // The lines that read the drawing again, if the last step saved one.
-  std::deque<std::string> after_step() {
+  // The lines that read the drawing again, if the step saved one under a name of its own.
+  std::deque<std::string> after(const std::deque<std::string>& step) {
     const distipo* doc = session_.bas.attivo();
-    if (doc == nullptr || !doc->Caption.get().starts_with("salvato") || doc->Caption.get() == name_) return {};
+    if (doc == nullptr || step.size() < 2 || step.back() != "menu opfile 4") return {};
     name_ = doc->Caption;
-    // A failed save leaves the caption: there is nothing whole to read.
-    if (doc->cmd.modificato != 0 || !session_.desktop.answers.files.empty()) return {};
+    // A failed save leaves a mark of a change: there is nothing whole to read.
+    const bool own = name_.starts_with("salvato") && step[step.size() - 2] == "file \"" + name_ + "\"";
+    if (!own || doc->cmd.modificato != 0) return {};
+    saved_ = doc;
     kept_ = kept_objects(doc->dis);
     return {"file \"" + name_ + "\"", "menu opfile 2"};
   }
@@ -38,7 +40,9 @@ class Reopening {
     kept_.reset();
     std::error_code ignored;
     std::filesystem::remove(name_, ignored);
-    const std::vector<std::string> after = kept_objects(session_.bas.attivo()->dis);
+    const distipo* doc = session_.bas.attivo();
+    if (doc == saved_ || doc->Caption.get() != name_) return "a saved drawing does not open: " + name_;
+    const std::vector<std::string> after = kept_objects(doc->dis);
     for (std::size_t i = 0; i < std::max(before.size(), after.size()); ++i) {
       const std::string was = i < before.size() ? before[i] : "nothing";
       const std::string is = i < after.size() ? after[i] : "nothing";
@@ -51,6 +55,7 @@ class Reopening {
  private:
   const Session& session_;
   Played& played_;
+  const distipo* saved_ = nullptr;
   std::string name_;
   std::optional<std::vector<std::string>> kept_;
 };
@@ -77,10 +82,11 @@ class UserLines : public std::streambuf {
     begun_ = true;
     if (played_.broken.empty()) played_.broken = reopening_.compared();
     if (!played_.broken.empty() || played_.steps >= steps_) return false;
-    waiting_ = reopening_.after_step();
+    waiting_ = reopening_.after(step_);
+    step_.clear();
     if (waiting_.empty()) {
       ++played_.steps;
-      waiting_ = user_.next_step();
+      waiting_ = step_ = user_.next_step();
     }
     return true;
   }
@@ -91,7 +97,8 @@ class UserLines : public std::streambuf {
   int steps_;
   Played& played_;
   bool begun_ = false;
-  std::deque<std::string> waiting_;
+  std::deque<std::string> step_;     // the user's last one
+  std::deque<std::string> waiting_;  // lines of it, or of a reading
   std::string line_;
 };
 
