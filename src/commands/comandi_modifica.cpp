@@ -131,7 +131,7 @@ void punto_di_fine(distipo& doc, float& X, float& Y) {
   X = static_cast<float>(a * scala);
   Y = static_cast<float>(b * scala);
   if (e_comando(doc, "Ruota")) {
-    r.x2 = numeric_prefix(doc.bas.frmMain.Text2.Text.get());
+    r.x2 = within_float(numeric_prefix(doc.bas.frmMain.Text2.Text.get()));
   } else {
     r.x2 = a;
     r.y2 = b;

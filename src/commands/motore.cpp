@@ -76,6 +76,23 @@ void zoom_da_parte(distipo& doc, const std::function<void()>& azione) {
   rimetti();
 }
 
+void riprendi_sospeso(distipo& doc, const comando& c) {
+  const senza_step ripetizione(doc.imp);
+  const reccomando ripreso = doc.cmd.comandosospeso;
+  if (c.riprendi != nullptr) {
+    doc.cmd.corrente() = ripreso;
+    doc.cmd.corrente().nvertici = 0;
+    c.riprendi(doc);
+  }
+  doc.cmd.passo = ripreso.nvertici;
+  if (ripreso.nvertici == 1 || ripreso.nvertici == 2) {
+    doc.bas.frmMain.Text1.Text = coppia(ripreso.x1, ripreso.y1);
+  }
+  if (ripreso.nvertici > 1) scrivilabel2(doc);
+  doc.surface.set_AutoRedraw(true);
+  if (c.riprendi_passo != nullptr) c.riprendi_passo(doc);
+}
+
 }  // namespace
 
 void avvia_comando(distipo& doc, const std::string& nome) {
@@ -104,10 +121,11 @@ void annullacomando(distipo& doc, int n) {
   statocomandi& cmd = doc.cmd;
   if (n < 0 || n >= static_cast<int>(cmd.comandi.size())) n = cmd.livello;
   const comando* c = comando_corrente(doc);
+  bool ridipingi = false;
   if (!sospeso(doc)) {
     cmd.ntrovati = 0;
     cmd.passo = 0;
-    if (deseleziona(doc.dis, c != nullptr && c->nome == "Stira")) redraw(doc);
+    ridipingi = deseleziona(doc.dis, c != nullptr && c->nome == "Stira");
     if (c != nullptr && c->tipo != genere::areastampa) cmd.ultimocomando = c->nome;
   }
   for (const int livello : {n, cmd.livello}) {
@@ -123,6 +141,8 @@ void annullacomando(distipo& doc, int n) {
   scrivilabel1(doc);
   doc.bas.frmMain.Text1.ForeColor = tavolozza(0);
   doc.bas.frmMain.Text1.Locked = false;
+  // Last, since a view that cannot be painted must not leave half a command.
+  if (ridipingi) redraw(doc);
 }
 
 void clicksin(distipo& doc, float& X, float& Y) {
@@ -212,21 +232,15 @@ void ripristinatrasparente(distipo& doc) {
     azzera_sospeso(doc);
     return;
   }
-  const senza_step ripetizione(doc.imp);
-  const reccomando ripreso = doc.cmd.comandosospeso;
-  if (c->riprendi != nullptr) {
-    doc.cmd.corrente() = ripreso;
-    doc.cmd.corrente().nvertici = 0;
-    c->riprendi(doc);
+  try {
+    riprendi_sospeso(doc, *c);
+    azzera_sospeso(doc);
+  } catch (...) {
+    // Half a command cannot go on: at this scale its points are out of reach.
+    azzera_sospeso(doc);
+    annullacomando(doc, doc.cmd.livello);
+    throw;
   }
-  doc.cmd.passo = ripreso.nvertici;
-  if (ripreso.nvertici == 1 || ripreso.nvertici == 2) {
-    doc.bas.frmMain.Text1.Text = coppia(ripreso.x1, ripreso.y1);
-  }
-  if (ripreso.nvertici > 1) scrivilabel2(doc);
-  doc.surface.set_AutoRedraw(true);
-  if (c->riprendi_passo != nullptr) c->riprendi_passo(doc);
-  azzera_sospeso(doc);
 }
 
 void abbandona_sospeso(distipo& doc) {

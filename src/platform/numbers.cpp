@@ -27,6 +27,11 @@ float to_float(double value) {
   return narrow;
 }
 
+double within_float(double value) {
+  to_float(value);
+  return value;
+}
+
 double round_even(double value) { return std::nearbyint(value); }
 
 std::int32_t round_clamped(double value) {
