@@ -105,7 +105,7 @@ void Form_Activate(distipo& doc) {
 void Form_Deactivate(distipo& doc) {
   doc.MousePointer = pointer_default;
   if (doc.cmd.comando().empty()) return;
-  doc.cmd.comandosospeso.tipo("");
+  abbandona_sospeso(doc);
   annullacomando(doc, doc.cmd.livello);
 }
 

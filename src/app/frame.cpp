@@ -12,6 +12,7 @@
 #include "files/accesso_file.h"
 #include "files/comandi_file.h"
 #include "files/dis_documento.h"
+#include "files/recupero.h"
 #include "files/txt_documento.h"
 #include "view/croce.h"
 
@@ -52,7 +53,8 @@ void pulsante_edita(distipo& doc, int pulsante) {
 
 // A file of the command line: one that is not there is passed over, one that cannot be read is told.
 void apri_da_riga(trelvobas& bas, const std::string& nome) {
-  if (!leggibile(nome)) return;
+  const std::optional<std::string> sorgente = scegli_sorgente(bas.desktop, nome);
+  if (!sorgente || !leggibile(*sorgente)) return;
   attivabarre(bas);
   nuovodisegno(bas);
   bas.disegnoattivo = bas.ndocumenti;
@@ -62,7 +64,7 @@ void apri_da_riga(trelvobas& bas, const std::string& nome) {
   if (testo_di_disegno(nome)) {
     importa(*bas.attivo());
   } else {
-    leggifile(*bas.attivo());
+    leggifile(*bas.attivo(), *sorgente);
   }
 }
 

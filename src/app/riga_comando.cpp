@@ -1,7 +1,5 @@
 #include "app/riga_comando.h"
 
-#include <cmath>
-
 #include "commands/motore.h"
 #include "commands/prompt.h"
 #include "platform/numbers.h"
@@ -21,17 +19,10 @@ double ordinata(const std::string& testo) {
 // The scale as the frame shows it: its only copy of it.
 double rapscalatesto(const trelvobas& bas) { return numeric_prefix(bas.frmMain.Label3.Caption.get()); }
 
-// A point that the window's units cannot hold would make an object that no file gives back.
-float unita_finestra(double valore) {
-  const auto unita = static_cast<float>(valore);
-  if (!std::isfinite(unita)) throw RuntimeError(error_overflow);
-  return unita;
-}
-
 void clic_scritto(distipo& doc, double x, double y) {
   const double scala = rapscalatesto(doc.bas);
-  float X = unita_finestra(x * scala);
-  float Y = unita_finestra(y * scala);
+  float X = to_float(x * scala);
+  float Y = to_float(y * scala);
   clicksin(doc, X, Y);
 }
 

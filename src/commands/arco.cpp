@@ -9,6 +9,7 @@
 #include "commands/prompt.h"
 #include "geometry/angoli.h"
 #include "geometry/cerchi.h"
+#include "platform/numbers.h"
 #include "view/banda.h"
 #include "view/mappa.h"
 
@@ -18,9 +19,9 @@ namespace {
 
 void prompt_arco(distipo& doc) { scrivi_prompt(doc, " Arco_Primo Punto(P.Iniziale): "); }
 
-std::string secondo_arco(const distipo& doc) {
-  return doc.cmd.passo == 1 ? " Arco_Secondo Punto(P.Finale): " : " Arco_Terzo Punto: ";
-}
+constexpr const char* punto_finale = " Arco_Secondo Punto(P.Finale): ";
+
+std::string secondo_arco(const distipo& doc) { return doc.cmd.passo == 1 ? punto_finale : " Arco_Terzo Punto: "; }
 
 // The ends are put in the order in which the figure passes through the third point.
 void ordina_arco(Arco& arco) {
@@ -34,8 +35,8 @@ void ordina_arco(Arco& arco) {
 }
 
 void clic_arco(distipo& doc, float& X, float& Y) {
-  X = static_cast<float>(X / doc.vista.rapscala);
-  Y = static_cast<float>(Y / doc.vista.rapscala);
+  X = to_float(X / doc.vista.rapscala);
+  Y = to_float(Y / doc.vista.rapscala);
   Arco& arco = doc.bas.cur.curArco;
   reccomando& r = doc.cmd.corrente();
   frmMainForm& f = doc.bas.frmMain;
@@ -48,7 +49,8 @@ void clic_arco(distipo& doc, float& X, float& Y) {
     doc.cmd.passo = 2;
     arco.p2x = r.x2 = X;
     arco.p2y = r.y2 = Y;
-    f.Label1.Caption = f.Label2.Caption;
+    // What stood in the second prompt, which a zoom does not write again.
+    f.Label1.Caption = punto_finale;
     f.Text1.Text = f.Text2.Text;
     scrivilabel2(doc);
   } else {
@@ -91,7 +93,7 @@ comando riga_arco() {
     const reccomando& sospeso = doc.cmd.comandosospeso;
     scrivilabel1(doc);
     if (sospeso.nvertici != 2) return;
-    doc.bas.frmMain.Label1.Caption = " Arco_Secondo Punto(P.Finale): ";
+    doc.bas.frmMain.Label1.Caption = punto_finale;
     doc.bas.frmMain.Text1.Text = coppia(sospeso.x2, sospeso.y2);
   };
   return c;

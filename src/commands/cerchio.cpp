@@ -27,7 +27,7 @@ void clic_cerchio(distipo& doc, float& X, float& Y) {
       },
       [](distipo& d, double /*a*/, double /*b*/) {
         const reccomando& r = d.cmd.corrente();
-        secondo_nel_record(d, numeric_prefix(d.bas.frmMain.Text2.Text.get()) + r.x1, r.y1);
+        secondo_nel_record(d, within_float(numeric_prefix(d.bas.frmMain.Text2.Text.get())) + r.x1, r.y1);
         d.bas.cur.curCerchio.Xpunto = r.x2;
         d.bas.cur.curCerchio.YPunto = r.y2;
       });

@@ -120,7 +120,7 @@ void punto_di_fine(distipo& doc, float& X, float& Y) {
   X = static_cast<float>(a * scala);
   Y = static_cast<float>(b * scala);
   if (e_comando(doc, "Ruota")) {
-    r.x2 = numeric_prefix(doc.bas.frmMain.Text2.Text.get());
+    r.x2 = within_float(numeric_prefix(doc.bas.frmMain.Text2.Text.get()));
   } else {
     r.x2 = a;
     r.y2 = b;
@@ -182,6 +182,7 @@ void esegui_modifica(distipo& doc, int& n) {
     annullacomando(doc, n);
     return;
   }
+  cmd.modificato = 1;
   redraw(doc);
   cmd.ultimocomando = nome;
   ++n;
@@ -214,7 +215,7 @@ bool aggancio_stira(const distipo& doc) { return doc.cmd.passo > passo_seconda; 
 // ---- resuming after a zoom
 
 void riprendi_selezione(distipo& doc, int indice) {
-  modifica_Click(doc, indice);
+  avvia_modifica(doc, indice);
   doc.cmd.ntrovati = conta_selezionati(doc);
 }
 

@@ -41,7 +41,12 @@ void clic_area(distipo& doc, float& X, float& Y) {
     doc.bas.desktop.beep();
     return;
   }
-  selzoom(doc, std::min(r.x1, x), std::min(r.y1, y), std::max(r.x1, x), std::max(r.y1, y));
+  try {
+    selzoom(doc, std::min(r.x1, x), std::min(r.y1, y), std::max(r.x1, x), std::max(r.y1, y));
+  } catch (...) {
+    if (doc.cmd.comando().empty()) ripristinatrasparente(doc);
+    throw;
+  }
   if (doc.cmd.comandosospeso.tipo().empty()) {
     scrivilabel1(doc);
   } else {

@@ -30,10 +30,12 @@ void misura_contorno(Oggetto& o) {
   o.supf = area(o.vertici.tutti());
 }
 
-// Paints the finished object, adds it and leaves a fresh one in its place.
+// Paints the finished object, adds it and leaves a fresh one in its place. The command may have started before the
+// last save.
 template <class Oggetto>
 Oggetto& concludi(distipo& doc, Oggetto& cursore) {
   disegna(doc, cursore, true);
+  doc.cmd.modificato = 1;
   Oggetto& aggiunto = collezione_di<Oggetto>(doc.dis).aggiungi(std::move(cursore));
   cursore = Oggetto{};
   return aggiunto;

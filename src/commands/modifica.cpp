@@ -13,6 +13,8 @@ constexpr int primo_comando = 3;
 constexpr int ultimo_comando = 9;
 constexpr int indice_stira = 8;
 
+bool disegno_vuoto(const distipo& doc) { return doc.cmd.statooggetti != 1 && doc.cmd.statotesti != 1; }
+
 const char* modo(int Index) { return Index == 1 ? modo_oggetto : Index == 2 ? modo_finestra : modo_intersezione; }
 
 }  // namespace
@@ -25,7 +27,12 @@ const char* modo_scelto(const distipo& doc) {
 }
 
 void modifica_Click(distipo& doc, int Index) {
-  if (doc.cmd.statooggetti != 1 && doc.cmd.statotesti != 1) {
+  if (Index >= primo_comando && Index <= ultimo_comando && !disegno_vuoto(doc)) abbandona_sospeso(doc);
+  avvia_modifica(doc, Index);
+}
+
+void avvia_modifica(distipo& doc, int Index) {
+  if (disegno_vuoto(doc)) {
     if (Index == 1) return;
     doc.bas.desktop.beep();
     doc.bas.desktop.message_box("Impossibile eseguire: \"" + doc.modifica(Index).Caption.get() + "\" - Disegno Vuoto",

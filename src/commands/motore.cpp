@@ -4,6 +4,7 @@
 #include "commands/deselezione.h"
 #include "commands/prompt.h"
 #include "model/tavolozza.h"
+#include "platform/numbers.h"
 #include "view/mappa.h"
 #include "view/redraw.h"
 
@@ -75,9 +76,27 @@ void zoom_da_parte(distipo& doc, const std::function<void()>& azione) {
   rimetti();
 }
 
+void riprendi_sospeso(distipo& doc, const comando& c) {
+  const senza_step ripetizione(doc.imp);
+  const reccomando ripreso = doc.cmd.comandosospeso;
+  if (c.riprendi != nullptr) {
+    doc.cmd.corrente() = ripreso;
+    doc.cmd.corrente().nvertici = 0;
+    c.riprendi(doc);
+  }
+  doc.cmd.passo = ripreso.nvertici;
+  if (ripreso.nvertici == 1 || ripreso.nvertici == 2) {
+    doc.bas.frmMain.Text1.Text = coppia(ripreso.x1, ripreso.y1);
+  }
+  if (ripreso.nvertici > 1) scrivilabel2(doc);
+  doc.surface.set_AutoRedraw(true);
+  if (c.riprendi_passo != nullptr) c.riprendi_passo(doc);
+}
+
 }  // namespace
 
 void avvia_comando(distipo& doc, const std::string& nome) {
+  abbandona_sospeso(doc);
   if (!doc.cmd.comando().empty()) annullacomando(doc, doc.cmd.livello);
   doc.cmd.corrente().tipo(nome);
   doc.cmd.modificato = 1;
@@ -102,10 +121,11 @@ void annullacomando(distipo& doc, int n) {
   statocomandi& cmd = doc.cmd;
   if (n < 0 || n >= static_cast<int>(cmd.comandi.size())) n = cmd.livello;
   const comando* c = comando_corrente(doc);
+  bool ridipingi = false;
   if (!sospeso(doc)) {
     cmd.ntrovati = 0;
     cmd.passo = 0;
-    if (deseleziona(doc.dis, c != nullptr && c->nome == "Stira")) redraw(doc);
+    ridipingi = deseleziona(doc.dis, c != nullptr && c->nome == "Stira");
     if (c != nullptr && c->tipo != genere::areastampa) cmd.ultimocomando = c->nome;
     // The dialog that stepped aside for the area comes back.
     if (c != nullptr && c->tipo == genere::areastampa) doc.bas.Geststamp.WindowState = window_normal;
@@ -123,6 +143,8 @@ void annullacomando(distipo& doc, int n) {
   scrivilabel1(doc);
   doc.bas.frmMain.Text1.ForeColor = tavolozza(0);
   doc.bas.frmMain.Text1.Locked = false;
+  // Last, since a view that cannot be painted must not leave half a command.
+  if (ridipingi) redraw(doc);
 }
 
 void clicksin(distipo& doc, float& X, float& Y) {
@@ -136,6 +158,9 @@ void clicksin(distipo& doc, float& X, float& Y) {
     f.xfiltro = 0;
     f.yfiltro = 0;
   }
+  // A point that the window's units cannot hold would make an object that no file gives back.
+  X = to_float(X);
+  Y = to_float(Y);
   if (c->clic != nullptr) c->clic(doc, X, Y);
 }
 
@@ -179,6 +204,8 @@ void gestastiera(distipo& doc, int KeyAscii) {
   const comando* c = comando_corrente(doc);
   if (KeyAscii != key_escape || c == nullptr) return;
   if (sospeso(doc) && doc.cmd.comandosospeso.tipo() != c->nome) {
+    // Nothing of the zoom is left on the command line.
+    annullacomando(doc, doc.cmd.livello);
     ripristinatrasparente(doc);
   } else if (c->esc_annulla) {
     annullacomando(doc, doc.cmd.livello);
@@ -207,21 +234,22 @@ void ripristinatrasparente(distipo& doc) {
     azzera_sospeso(doc);
     return;
   }
-  const senza_step ripetizione(doc.imp);
-  const reccomando ripreso = doc.cmd.comandosospeso;
-  if (c->riprendi != nullptr) {
-    doc.cmd.corrente() = ripreso;
-    doc.cmd.corrente().nvertici = 0;
-    c->riprendi(doc);
+  try {
+    riprendi_sospeso(doc, *c);
+    azzera_sospeso(doc);
+  } catch (...) {
+    // Half a command cannot go on: at this scale its points are out of reach.
+    azzera_sospeso(doc);
+    annullacomando(doc, doc.cmd.livello);
+    throw;
   }
-  doc.cmd.passo = ripreso.nvertici;
-  if (ripreso.nvertici == 1 || ripreso.nvertici == 2) {
-    doc.bas.frmMain.Text1.Text = coppia(ripreso.x1, ripreso.y1);
-  }
-  if (ripreso.nvertici > 1) scrivilabel2(doc);
-  doc.surface.set_AutoRedraw(true);
-  if (c->riprendi_passo != nullptr) c->riprendi_passo(doc);
+}
+
+void abbandona_sospeso(distipo& doc) {
+  if (!sospeso(doc)) return;
+  const bool stira = doc.cmd.comandosospeso.tipo() == "Stira";
   azzera_sospeso(doc);
+  if (deseleziona(doc.dis, stira)) redraw(doc);
 }
 
 void con_comando_da_parte(distipo& doc, const std::function<void()>& azione) {

@@ -27,6 +27,8 @@ void gestastiera(distipo& doc, int KeyAscii);
 // Puts the running command aside, and takes it up again.
 void sospendi(distipo& doc);
 void ripristinatrasparente(distipo& doc);
+// Gives up the command that is put aside, with what it had selected: another one starts, or the window is left.
+void abbandona_sospeso(distipo& doc);
 
 // Does something that repaints or moves the view with the running command put aside, and taken up again after it.
 void con_comando_da_parte(distipo& doc, const std::function<void()>& azione);

@@ -61,8 +61,8 @@ void tratto_vivo(distipo& doc, double x1, double y1, double x2, double y2) {
 
 template <class Oggetto>
 void clic(distipo& doc, float& X, float& Y) {
-  X = static_cast<float>(X / doc.vista.rapscala);
-  Y = static_cast<float>(Y / doc.vista.rapscala);
+  X = to_float(X / doc.vista.rapscala);
+  Y = to_float(Y / doc.vista.rapscala);
   Oggetto& oggetto = spezzata<Oggetto>::cursore(doc.bas);
   const std::int16_t n = round_to_int16(oggetto.vertic() + 1);
   oggetto.vertic(n);

@@ -14,7 +14,11 @@ namespace trelvo {
 
 namespace {
 
-bool rappresentabile(double valore) { return std::isfinite(static_cast<float>(valore)); }
+// The corner and the size of a view are 32-bit floats, in the window's units as in the drawing's.
+bool rappresentabile(std::initializer_list<double> valori) {
+  return std::all_of(valori.begin(), valori.end(),
+                     [](double valore) { return std::isfinite(static_cast<float>(valore)); });
+}
 
 void annota_zoom(distipo& doc, double x1, double y1, double x2, double y2) {
   reccomando& r = doc.cmd.corrente();
@@ -36,7 +40,9 @@ void selzoom(distipo& doc, double x1, double y1, double x2, double y2) {
   impost_rapscala(doc, x1, y1, x2, y2);
   const double sinistra = doc.vista.rapscala * x1;
   const double alto = doc.vista.rapscala * y1;
-  if (!rappresentabile(sinistra) || !rappresentabile(alto)) {
+  const Surface& s = doc.surface;
+  if (!rappresentabile(
+          {sinistra, alto, x1, y1, s.ScaleWidth / doc.vista.rapscala, s.ScaleHeight / doc.vista.rapscala})) {
     doc.vista.rapscala = prima;
     throw RuntimeError(error_overflow);
   }
@@ -44,7 +50,13 @@ void selzoom(distipo& doc, double x1, double y1, double x2, double y2) {
   doc.bas.frmMain.Label3.Caption = number_text(doc.vista.rapscala);
   doc.surface.ScaleLeft = static_cast<float>(sinistra);
   doc.surface.ScaleTop = static_cast<float>(alto);
-  redraw(doc);
+  // The zoom is over even if the view cannot be painted.
+  try {
+    redraw(doc);
+  } catch (...) {
+    scrivilabel1(doc);
+    throw;
+  }
   scrivilabel1(doc);
 }
 
@@ -98,6 +110,19 @@ namespace {
 // One unit of a bar is a twentieth of the view's shorter side.
 constexpr float unita_per_lato = 20;
 
+// A scroll is not repeated by a right click, whether it came through or not.
+class ultimo_tenuto {
+ public:
+  explicit ultimo_tenuto(statocomandi& cmd) : cmd_(cmd), ultimo_(cmd.ultimocomando) {}
+  ultimo_tenuto(const ultimo_tenuto&) = delete;
+  ultimo_tenuto& operator=(const ultimo_tenuto&) = delete;
+  ~ultimo_tenuto() { cmd_.ultimocomando = std::move(ultimo_); }
+
+ private:
+  statocomandi& cmd_;
+  std::string ultimo_;
+};
+
 void scorri(distipo& doc, bool orizzontale) {
   const ScrollBar& barra = orizzontale ? doc.HScroll1 : doc.VScroll1;
   std::int16_t& precedente = orizzontale ? doc.vista.valoreprecH : doc.vista.valoreprecV;
@@ -114,13 +139,12 @@ void scorri(distipo& doc, bool orizzontale) {
   const float spostamento = unita * static_cast<float>(valore - precedente);
   const float dx = orizzontale ? spostamento : 0;
   const float dy = orizzontale ? 0 : spostamento;
-  const std::string ultimo = doc.cmd.ultimocomando;
+  const ultimo_tenuto ultimo(doc.cmd);
   con_comando_da_parte(doc, [&] {
     doc.cmd.ultimocomando = "Zoom Dinamico";
     selzoom(doc, dx + sinistra, dy + alto, dx + destra, dy + basso);
     precedente = valore;
   });
-  doc.cmd.ultimocomando = ultimo;
 }
 
 }  // namespace

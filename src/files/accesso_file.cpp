@@ -58,7 +58,7 @@ fileaperto::fileaperto(const std::string& nome, modo come) {
 }
 
 fileaperto::fileaperto(fileaperto&& altro) noexcept
-    : descrittore_(std::exchange(altro.descrittore_, -1)), ordinario_(altro.ordinario_) {}
+    : descrittore_(std::exchange(altro.descrittore_, -1)), ordinario_(altro.ordinario_), diritti_(altro.diritti_) {}
 
 fileaperto::~fileaperto() {
   if (descrittore_ >= 0) ::close(descrittore_);
@@ -91,12 +91,21 @@ void fileaperto::scrivi(std::span<const std::byte> dati) {
 
 void fileaperto::svuota() { [[maybe_unused]] const int esito = ::ftruncate(descrittore_, 0); }
 
-void fileaperto::prendi_diritti(unsigned diritti) {
-  [[maybe_unused]] const int esito = ::fchmod(descrittore_, static_cast<mode_t>(diritti & 0777U));
+void fileaperto::nascondi(unsigned diritti) {
+  struct stat stato {};
+  if (::fstat(descrittore_, &stato) != 0) throw errore_trasferimento(errno);
+  if (::fchmod(descrittore_, S_IWUSR) == 0) diritti_ = (diritti != 0 ? diritti : stato.st_mode) & 0777U;
+}
+
+// Where the rights of a file cannot be chosen it was never hidden.
+void fileaperto::scopri() {
+  if (diritti_ && insisti([&] { return ::fchmod(descrittore_, *diritti_); }) < 0) throw errore_trasferimento(errno);
+  diritti_.reset();
 }
 
 void fileaperto::completa() {
   if (ordinario_ && insisti([&] { return ::fsync(descrittore_); }) < 0) throw errore_trasferimento(errno);
+  scopri();
   chiudi();
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -31,15 +32,18 @@ class fileaperto {
   void scrivi(std::span<const std::byte> dati);
   // Nothing of it is left, as far as the system lets.
   void svuota();
-  // Gives the file the rights of another one, as far as the system lets.
-  void prendi_diritti(unsigned diritti);
+  // Nobody can read the file until it is complete. Then it has these rights, or those it was made with for 0.
+  void nascondi(unsigned diritti);
   // Closed, and told if that fails; `completa` first brings everything to the disk.
   void chiudi();
   void completa();
 
  private:
+  void scopri();
+
   int descrittore_ = -1;
   bool ordinario_ = false;
+  std::optional<unsigned> diritti_;  // while it is hidden
 };
 
 // Whether the file can be opened for reading: it is there, and no folder.

@@ -5,6 +5,7 @@
 #include "files/accesso_file.h"
 #include "files/chiedi_nome.h"
 #include "files/dis_documento.h"
+#include "files/recupero.h"
 
 namespace trelvo {
 
@@ -39,8 +40,8 @@ bool in_uso(const trelvobas& bas, const std::string& nome) {
   return false;
 }
 
-// False if there is nothing to read.
-bool scegli_file(trelvobas& bas, std::string& nome) {
+// The document's name, and the file to read; false if there is nothing to read.
+bool scegli_file(trelvobas& bas, std::string& nome, std::string& sorgente) {
   CommonDialog& dialogo = dialogo_pronto(bas);
   if (!bas.desktop.show_open(dialogo)) return false;
   nome = dialogo.FileName;
@@ -48,7 +49,9 @@ bool scegli_file(trelvobas& bas, std::string& nome) {
     bas.desktop.message_box(nome + "  Attualmente in uso.", Buttons::ok);
     return false;
   }
-  return leggibile(nome);
+  const std::optional<std::string> scelta = scegli_sorgente(bas.desktop, nome);
+  sorgente = scelta.value_or(std::string());
+  return leggibile(sorgente);
 }
 
 void registra_nome(trelvobas& bas, const std::string& nome) {
@@ -60,7 +63,8 @@ void registra_nome(trelvobas& bas, const std::string& nome) {
 
 void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
   std::string nome;
-  if (!scegli_file(bas, nome)) {
+  std::string sorgente;
+  if (!scegli_file(bas, nome, sorgente)) {
     --bas.progrdocumento;
     servizi.scarica(doc);
     return;
@@ -70,7 +74,7 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
   if (testo_di_disegno(nome)) {
     servizi.importa(doc);
   } else {
-    leggifile(doc);
+    leggifile(doc, sorgente);
   }
 }
 

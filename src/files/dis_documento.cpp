@@ -94,11 +94,14 @@ void salvafile(distipo& doc) {
   }
 }
 
-void leggifile(distipo& doc) {
+void leggifile(distipo& doc) { leggifile(doc, doc.Caption); }
+
+void leggifile(distipo& doc, const std::string& sorgente) {
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
   errorerimandato errore;
   {
-    fileaperto file(doc.Caption, fileaperto::modo::lettura);
+    fileaperto file(sorgente, fileaperto::modo::lettura);
+    if (sorgente != doc.Caption.get()) doc.cmd.modificato = 1;
     leggi_testata(doc, file, errore);
     // The zoom put the pointer back.
     doc.bas.desktop.MousePointer = pointer_hourglass;

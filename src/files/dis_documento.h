@@ -17,4 +17,7 @@ void salvafile(distipo& doc);
 // that is none, and a file that ends early are no faults.
 void leggifile(distipo& doc);
 
+// The same from `sorgente`. What comes from another file than the document's own counts as changed.
+void leggifile(distipo& doc, const std::string& sorgente);
+
 }  // namespace trelvo

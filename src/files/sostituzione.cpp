@@ -10,30 +10,40 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A link stays a link: the file that it leads to is the one replaced.
-std::string file_vero(const std::string& nome) {
-  verifica_nome(nome);
-  std::error_code errore;
-  if (!fs::is_symlink(nome, errore)) return nome;
-  const fs::path vero = fs::canonical(nome, errore);
-  return errore ? nome : vero.string();
-}
-
 std::string nome_libero(std::string nome) {
   std::error_code ignorato;
   do {
-    nome += '~';
+    nome += segno_copia;
   } while (fs::exists(fs::symlink_status(nome, ignorato)));
   return nome;
 }
 
 }  // namespace
 
+// A link stays a link: the file that it leads to is the one replaced.
+std::string file_vero(const std::string& nome) {
+  verifica_nome(nome);
+  constexpr int collegamenti_massimi = 40;
+  std::error_code errore;
+  fs::path vero = nome;
+  for (int i = 0; i < collegamenti_massimi && fs::is_symlink(vero, errore); ++i) {
+    const fs::path meta = fs::read_symlink(vero, errore);
+    if (errore) return nome;
+    vero = meta.is_absolute() ? meta : vero.parent_path() / meta;
+  }
+  return vero.string();
+}
+
+bool leggibile_per_diritti(const fs::file_status& stato) {
+  return fs::is_regular_file(stato) && (stato.permissions() & fs::perms::owner_read) != fs::perms::none;
+}
+
 sostituzione::sostituzione(const std::string& nome) : nome_(file_vero(nome)) {
   std::error_code ignorato;
   const fs::file_status stato = fs::status(nome_, ignorato);
   if (fs::is_regular_file(stato)) {
-    diritti_ = static_cast<unsigned>(stato.permissions());
+    // Those of an unfinished file are not meant to last.
+    if (leggibile_per_diritti(stato)) diritti_ = static_cast<unsigned>(stato.permissions());
     metti_da_parte();
   } else {
     ordinario_ = !fs::exists(stato);
@@ -56,12 +66,13 @@ void sostituzione::metti_da_parte() {
 void sostituzione::apri() {
   try {
     file_.emplace(nome_, ordinario_ ? fileaperto::modo::nuovo : fileaperto::modo::scrittura);
+    if (ordinario_) file_->nascondi(diritti_);
   } catch (...) {
     std::error_code ignorato;
+    if (file_ && ordinario_) fs::remove(nome_, ignorato);
     if (!conservato_.empty()) fs::rename(conservato_, nome_, ignorato);
     throw;
   }
-  if (diritti_ != 0) file_->prendi_diritti(diritti_);
 }
 
 sostituzione::~sostituzione() {

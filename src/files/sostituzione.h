@@ -1,7 +1,8 @@
 // A file that takes the place of another one of its name. The old one is moved away first, and goes for good only when
-// the new one is complete on the disk.
+// the new one is complete on the disk. Until then the new one cannot be read, so that nobody takes it for whole.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -9,6 +10,15 @@
 #include "platform/runtime_error.h"
 
 namespace trelvo {
+
+// What follows the name of a file that is kept.
+constexpr char segno_copia = '~';
+
+// Where a link leads, also if nothing is there; any other name as it is. Error 52 for a name that no file can have.
+std::string file_vero(const std::string& nome);
+
+// A file that its owner may read.
+bool leggibile_per_diritti(const std::filesystem::file_status& stato);
 
 class sostituzione {
  public:

@@ -21,6 +21,17 @@ Integer rounded(double value) {
 
 std::int16_t round_to_int16(double value) { return rounded<std::int16_t>(value); }
 std::int32_t round_to_int32(double value) { return rounded<std::int32_t>(value); }
+float to_float(double value) {
+  const auto narrow = static_cast<float>(value);
+  if (!std::isfinite(narrow)) throw RuntimeError(error_overflow);
+  return narrow;
+}
+
+double within_float(double value) {
+  to_float(value);
+  return value;
+}
+
 double round_even(double value) { return std::nearbyint(value); }
 
 std::int32_t round_clamped(double value) {

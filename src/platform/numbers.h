@@ -35,6 +35,10 @@ std::string fixed_text(double value, int decimals, const RegionalFormat& format,
 // To nearest, halves to the even neighbour. Error 6 outside the type, NaN included.
 std::int16_t round_to_int16(double value);
 std::int32_t round_to_int32(double value);
+// Error 6 if a 32-bit float does not hold it, NaN included.
+float to_float(double value);
+// The value as it is, with the same error.
+double within_float(double value);
 double round_even(double value);
 // The same without the error, held at the type's ends; NaN gives 0. For device coordinates.
 std::int32_t round_clamped(double value);

@@ -135,6 +135,7 @@ void aggiungi_testo(distipo& doc, const attributi_testo& a) {
   dai(t, a);
   disegnatesto(doc, t, true);
   doc.dis.collTesti.aggiungi(std::move(t));
+  doc.cmd.modificato = 1;
   t = testo{};
   annullacomando(doc, -1);
 }
@@ -198,7 +199,11 @@ void Command1_Click(trelvobas& bas) {
 void Command2_Click(trelvobas& bas) {
   distipo* doc = bas.attivo();
   const std::string modo = bas.Gesttesto.Label1.Caption;
-  if (doc != nullptr && (modo == modo_testo_generale || modo == modo_testo_nuovo)) annullacomando(*doc, 2);
+  if (doc != nullptr && (modo == modo_testo_generale || modo == modo_testo_nuovo)) {
+    annullacomando(*doc, 2);
+    // A zoom that was cancelled gives way to the command behind it.
+    ripristinatrasparente(*doc);
+  }
   bas.Gesttesto.unload();
 }
 
