@@ -23,6 +23,6 @@ mkdir tour
 cd tour
 cat "$samples/appartamento.tsc" "$samples/tour.tsc" | "$program" --folder . --script - >output.txt
 grep -q 'DISTANZA = 794[.,]04' output.txt || { tail -n 5 output.txt; exit 1; }
-for result in appartamento.png bagno.png appartamento.dxf appartamento.bmp; do
+for result in appartamento.png bagno.png appartamento.dxf appartamento.bmp appartamento.pdf; do
   [ "$(stat -c %s $result)" -gt 1000 ] || { echo "$result is missing"; exit 1; }
 done

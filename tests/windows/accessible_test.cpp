@@ -167,6 +167,11 @@ TEST_F(Accessible, Settings) {
   look(1, [&] { choose("mnutipotesto"); });
 }
 
+TEST_F(Accessible, Printing) {
+  look(
+      2, [&] { choose("opfile", 8); }, [](QWidget& window) { button(window, "Spessore Linee").click(); });
+}
+
 TEST_F(Accessible, ZoomAndProperties) {
   choose("opdis", 1);
   click(2, 2);
