@@ -43,8 +43,6 @@ class FocusWatch : public QObject {
   Control& control_;
 };
 
-bool dark(const QColor& color) { return qGray(color.rgb()) < 128; }
-
 }  // namespace
 
 void follow(QObject* owner, PropertyBase& property, const std::function<void()>& action) {
@@ -68,17 +66,8 @@ void bind_label(DesktopQt& desktop, QLabel* widget, Label& label) {
   follow(widget, label.ToolTipText, [widget, &label] { widget->setToolTip(qt(label.ToolTipText)); });
 }
 
-void show_back_color(QWidget* widget, Color color) {
-  QPalette palette = widget->palette();
-  const QColor back = color_of(color);
-  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-    palette.setColor(group, QPalette::Base, back);
-    palette.setColor(group, QPalette::Text, dark(back) ? Qt::white : Qt::black);
-  }
-  widget->setPalette(palette);
-}
-
-void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QString& accessible_name) {
+void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QString& accessible_name,
+               FieldColors colors) {
   bind_control(desktop, widget, box, accessible_name);
   follow(widget, box.Text, [widget, &box] {
     const QString text = qt(box.Text);
@@ -92,16 +81,7 @@ void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QStrin
     }
   });
   follow(widget, box.Locked, [widget, &box] { widget->setReadOnly(box.Locked); });
-  follow(widget, box.BackColor, [widget, &box] { show_back_color(widget, box.BackColor); });
-  follow(widget, box.ForeColor, [widget, &box] {
-    if (box.ForeColor == 0) {
-      show_back_color(widget, box.BackColor);
-      return;
-    }
-    QPalette palette = widget->palette();
-    palette.setColor(QPalette::Text, color_of(box.ForeColor));
-    widget->setPalette(palette);
-  });
+  follow_colors(widget, box, colors);
   QObject::connect(widget, &QLineEdit::textChanged, widget, [&desktop, &box](const QString& text) {
     const std::string typed = text.toStdString();
     if (box.Text.get() != typed) desktop.run([&] { box.Text = typed; });

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/controls.h"
+#include "windows/box_colors.h"
 
 class QAbstractButton;
 class QCheckBox;
@@ -34,7 +35,8 @@ void follow(QObject* owner, PropertyBase& property, const std::function<void()>&
 void bind_control(DesktopQt& desktop, QWidget* widget, Control& control, const QString& accessible_name);
 
 void bind_label(DesktopQt& desktop, QLabel* widget, Label& label);
-void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QString& accessible_name);
+void bind_text(DesktopQt& desktop, QLineEdit* widget, TextBox& box, const QString& accessible_name,
+               FieldColors colors = FieldColors::of_state);
 void bind_button(DesktopQt& desktop, QAbstractButton* widget, Button& button);
 void bind_option(DesktopQt& desktop, QAbstractButton* widget, OptionButton& option);
 void bind_check(DesktopQt& desktop, QCheckBox* widget, CheckBox& box, const QString& accessible_name);
@@ -44,8 +46,5 @@ void bind_scroll(DesktopQt& desktop, QScrollBar* widget, ScrollBar& bar, const Q
 // The rows, the chosen one, and the first in view, both ways.
 void bind_list(DesktopQt& desktop, QListView* widget, ListBox& list, const QString& accessible_name);
 void bind_sample(DesktopQt& desktop, QLabel* widget, SampleLabel& sample);
-
-// A box with its palette colour behind the text, and the text readable on it.
-void show_back_color(QWidget* widget, Color color);
 
 }  // namespace trelvo

@@ -59,7 +59,7 @@ QGroupBox* switch_group(DesktopQt& desktop, Frame& frame, OptionButton& on, Opti
 QGroupBox* color_group(DesktopQt& desktop, Frame& frame, TextBox& index, Button& change) {
   QGroupBox* group = make_group(desktop, frame);
   auto* row = new QHBoxLayout(group);
-  row->addWidget(make_entry(desktop, index, qt(frame.Caption), 6), 1);
+  row->addWidget(make_entry(desktop, index, qt(frame.Caption), 6, FieldColors::to_show), 1);
   row->addWidget(make_button(desktop, change));
   return group;
 }
@@ -114,7 +114,7 @@ void lay_out_Selcol(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto* grid = new QGridLayout;
   constexpr int rows = numero_colori / 2;
   for (int i = 0; i < numero_colori; ++i) {
-    auto* swatch = make_entry(desktop, s.Text1(i), qt(nome_colore(i)), 4);
+    auto* swatch = make_entry(desktop, s.Text1(i), qt(nome_colore(i)), 4, FieldColors::to_show);
     swatch->setFocusPolicy(Qt::NoFocus);
     const int column = i < rows ? 0 : 3;
     grid->addWidget(make_option(desktop, s.Option1(i)), i % rows, column);

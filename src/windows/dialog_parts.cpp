@@ -25,9 +25,9 @@ QRadioButton* make_option(DesktopQt& desktop, OptionButton& option) {
   return widget;
 }
 
-TextEntry* make_entry(DesktopQt& desktop, TextBox& box, const QString& name, int characters) {
+TextEntry* make_entry(DesktopQt& desktop, TextBox& box, const QString& name, int characters, FieldColors colors) {
   auto* widget = new TextEntry(desktop, box);
-  bind_text(desktop, widget, box, name);
+  bind_text(desktop, widget, box, name, colors);
   widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * (characters + 3));
   // What is hidden keeps its place, so that nothing jumps.
   QSizePolicy policy = widget->sizePolicy();

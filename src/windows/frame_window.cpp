@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -89,9 +90,13 @@ void FrameWindow::make_toolbars() {
   }
 }
 
+// The program's own rows are for bands of its own widths: a bar that is wider here and does not fit goes down as well.
 void FrameWindow::break_toolbars() {
+  int row = toolbars_.empty() ? 0 : toolbars_[0]->sizeHint().width();
   for (std::size_t i = 1; i < toolbars_.size(); ++i) {
-    const bool wanted = form_.Bands(static_cast<int>(i) + 1).NewRow;
+    const int needed = toolbars_[i]->sizeHint().width();
+    const bool wanted = form_.Bands(static_cast<int>(i) + 1).NewRow || row + needed > width();
+    row = wanted ? needed : row + needed;
     if (wanted == toolBarBreak(toolbars_[i])) continue;
     if (wanted) {
       insertToolBarBreak(toolbars_[i]);
@@ -99,6 +104,11 @@ void FrameWindow::break_toolbars() {
       removeToolBarBreak(toolbars_[i]);
     }
   }
+}
+
+void FrameWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  break_toolbars();
 }
 
 void FrameWindow::refresh() {
@@ -131,8 +141,16 @@ void FrameWindow::list_windows(QMenu& menu) {
   }
 }
 
+// The bars and strips that were shown just now take their place before a drawing is fitted into the rest: a strip that
+// folds moves its neighbours once more.
+void FrameWindow::settle() {
+  constexpr int rounds = 3;
+  for (int i = 0; i < rounds; ++i) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+}
+
 Desktop::ClientSize FrameWindow::create_document(distipo& document) {
   opening_ = true;
+  settle();
   auto* window = new DocumentWindow(desktop_, document, this);
   windows_[&document] = window;
   area_->addSubWindow(window);

@@ -34,11 +34,13 @@ class FrameWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void make_toolbars();
   void break_toolbars();
+  static void settle();
   void activated(QMdiSubWindow* window);
   void show_menus();
   void list_windows(QMenu& menu);

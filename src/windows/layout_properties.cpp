@@ -179,7 +179,7 @@ QGroupBox* fill_group(DesktopQt& desktop, TipoSuperficieForm& f) {
   auto* layout = new QVBoxLayout(group);
   auto* fills = new QListView;
   bind_list(desktop, fills, f.List2, "Tipo Campitura");
-  fills->setFixedHeight((fills->fontMetrics().height() + 2) * f.List2.ListCount + 2 * fills->frameWidth());
+  fills->setFixedHeight(fills->sizeHintForRow(0) * f.List2.ListCount + 2 * fills->frameWidth());
   layout->addWidget(fills);
   layout->addWidget(make_label(desktop, f.Label9));
   auto* color = new QHBoxLayout;

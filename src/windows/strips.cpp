@@ -15,26 +15,33 @@ namespace trelvo {
 
 namespace {
 
-QFrame* make_strip(DesktopQt& desktop, Control& strip, const QString& name) {
-  auto* frame = new QFrame;
+// A strip of two halves side by side, or one above the other where the window is too narrow for both.
+class FoldingStrip : public QFrame {
+ public:
+  // `first_width`: what the first half wants to be read.
+  FoldingStrip(QLayout* first, int first_width, QLayout* second)
+      : halves_(new QBoxLayout(QBoxLayout::LeftToRight, this)), second_(second), first_width_(first_width) {
+    halves_->setContentsMargins(6, 2, 6, 2);
+    halves_->addLayout(first, 1);
+    halves_->addLayout(second);
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    const bool narrow = width() < first_width_ + second_->sizeHint().width();
+    halves_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    QFrame::resizeEvent(event);
+  }
+
+ private:
+  QBoxLayout* halves_;
+  QLayout* second_;
+  int first_width_;
+};
+
+void dress_strip(DesktopQt& desktop, QFrame* frame, Control& strip, const QString& name) {
   frame->setFrameShape(QFrame::StyledPanel);
   bind_control(desktop, frame, strip, name);
-  return frame;
-}
-
-// White and grey fields would glare in a dark theme: there they take its own colours for what is on and off.
-void follow_theme(TextEntry* entry, TextBox& box) {
-  follow(entry, box.BackColor, [entry, &box] {
-    const QPalette theme = QApplication::palette();
-    if (qGray(theme.color(QPalette::Window).rgb()) >= 128) return;
-    const auto role = box.BackColor == rgb(255, 255, 255) ? QPalette::Base : QPalette::Button;
-    QPalette palette = entry->palette();
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-      palette.setColor(group, QPalette::Base, theme.color(QPalette::Active, role));
-      palette.setColor(group, QPalette::Text, theme.color(QPalette::Active, QPalette::Text));
-    }
-    entry->setPalette(palette);
-  });
 }
 
 void add_entry(DesktopQt& desktop, QGridLayout& layout, int row, Label& prompt, TextBox& box, const QString& name) {
@@ -43,13 +50,12 @@ void add_entry(DesktopQt& desktop, QGridLayout& layout, int row, Label& prompt, 
   bind_label(desktop, label, prompt);
   auto* entry = new TextEntry(desktop, box);
   bind_text(desktop, entry, box, name);
-  follow_theme(entry, box);
   label->setBuddy(entry);
   layout.addWidget(label, row, 0);
   layout.addWidget(entry, row, 1);
 }
 
-// A switch of the status strip: black while on, grey while off, in the theme's own black and grey.
+// A switch of the status strip: strong while on, pale while off, and still to be read.
 QToolButton* make_switch(DesktopQt& desktop, Label& label) {
   auto* button = new QToolButton;
   button->setAutoRaise(true);
@@ -65,12 +71,13 @@ QToolButton* make_switch(DesktopQt& desktop, Label& label) {
   });
   follow(button, label.ForeColor, [button, &label] {
     QPalette palette;
-    const auto group = label.ForeColor == 0 ? QPalette::Active : QPalette::Disabled;
-    const QColor text = palette.color(group, QPalette::WindowText);
+    const bool on = label.ForeColor == 0;
+    const QColor pale = palette.color(QPalette::Disabled, QPalette::WindowText);
+    const QColor text = on ? palette.color(QPalette::WindowText) : readable_on(palette.color(QPalette::Window), pale);
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) palette.setColor(role, text);
     button->setPalette(palette);
     QFont font = button->font();
-    font.setBold(label.ForeColor == 0);
+    font.setBold(on);
     button->setFont(font);
   });
   QObject::connect(button, &QToolButton::clicked, button, [&desktop, &label] {
@@ -84,7 +91,8 @@ QToolButton* make_switch(DesktopQt& desktop, Label& label) {
 }  // namespace
 
 QWidget* make_command_line(DesktopQt& desktop, frmMainForm& form) {
-  QFrame* strip = make_strip(desktop, form.Picture2, "Riga comandi");
+  auto* strip = new QFrame;
+  dress_strip(desktop, strip, form.Picture2, "Riga comandi");
   auto* layout = new QGridLayout(strip);
   layout->setContentsMargins(6, 4, 6, 4);
   layout->setVerticalSpacing(4);
@@ -95,26 +103,31 @@ QWidget* make_command_line(DesktopQt& desktop, frmMainForm& form) {
 }
 
 QWidget* make_status_strip(DesktopQt& desktop, frmMainForm& form) {
-  QFrame* strip = make_strip(desktop, form.Picture1, "Barra di stato");
-  auto* layout = new QHBoxLayout(strip);
-  layout->setContentsMargins(6, 2, 6, 2);
+  constexpr int scale_width = 18;    // characters
+  constexpr int reading_width = 16;  // to be read whole
+  auto* readings = new QHBoxLayout;
   auto* scale = new QLabel;
   bind_label(desktop, scale, form.Label3);
   scale->setToolTip("Scala del disegno");
   scale->setAccessibleDescription("Scala del disegno");
-  scale->setMinimumWidth(scale->fontMetrics().averageCharWidth() * 18);
-  layout->addWidget(scale);
+  const int em = scale->fontMetrics().averageCharWidth();
+  scale->setMinimumWidth(em * scale_width);
+  readings->addWidget(scale);
+  int wide = em * scale_width;
   int number = 3;
   for (TextBox* reading : {&form.Text3, &form.Text4, &form.Text5, &form.Text6, &form.Text7}) {
     auto* entry = new TextEntry(desktop, *reading);
     entry->setFocusPolicy(Qt::NoFocus);
     bind_text(desktop, entry, *reading, QString("Lettura %1").arg(number++ - 2));
-    follow_theme(entry, *reading);
-    layout->addWidget(entry, 1);
+    readings->addWidget(entry, 1);
+    wide += em * reading_width;
   }
+  auto* switches = new QHBoxLayout;
   for (Label* label : {&form.Label8, &form.Label9, &form.Label10, &form.Label11}) {
-    layout->addWidget(make_switch(desktop, *label));
+    switches->addWidget(make_switch(desktop, *label));
   }
+  auto* strip = new FoldingStrip(readings, wide, switches);
+  dress_strip(desktop, strip, form.Picture1, "Barra di stato");
   return strip;
 }
 

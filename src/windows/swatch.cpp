@@ -17,7 +17,11 @@ Qt::PenStyle pen_style(int index) {
   return styles[index];
 }
 
-QColor readable_on(const QColor& back) { return qGray(back.rgb()) < 128 ? Qt::white : Qt::black; }
+// A rim that is as wide on all sides at every scale of the screen.
+void fill_with_rim(QPainter& painter, const QRect& area, int width, const QColor& rim, const QColor& inside) {
+  painter.fillRect(area, rim);
+  painter.fillRect(area.adjusted(width, width, -width, -width), inside);
+}
 
 }  // namespace
 
@@ -41,13 +45,11 @@ QSize StyleSwatch::sizeHint() const {
 void StyleSwatch::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QColor back = color_of(box_.BackColor);
-  painter.fillRect(rect(), back);
+  fill_with_rim(painter, rect(), hasFocus() ? 2 : 1, palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid),
+                back);
   painter.setPen(QPen(readable_on(back), 1, pen_style(box_.index)));
   const int margin = fontMetrics().averageCharWidth();
   painter.drawLine(margin, height() / 2, width() - margin, height() / 2);
-  painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  if (hasFocus()) painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
 ColorChip::ColorChip(Label& label, const QString& name, QWidget* parent) : QFrame(parent), label_(label) {
@@ -66,14 +68,11 @@ QSize ColorChip::sizeHint() const {
 
 void ColorChip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  if (label_.Caption.get() == vari) {
-    painter.drawText(rect(), Qt::AlignCenter, qt(vari));
-  } else if (isEnabled()) {
-    const double number = numeric_prefix(label_.Caption.get());
-    painter.fillRect(rect(), color_of(static_cast<Color>(round_clamped(number))));
-  }
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  const bool told = label_.Caption.get() != vari;
+  QColor inside = palette().color(QPalette::Window);
+  if (told && isEnabled()) inside = color_of(static_cast<Color>(round_clamped(numeric_prefix(label_.Caption.get()))));
+  fill_with_rim(painter, rect(), 1, palette().color(QPalette::Mid), inside);
+  if (!told) painter.drawText(rect(), Qt::AlignCenter, qt(vari));
 }
 
 }  // namespace trelvo

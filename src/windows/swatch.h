@@ -28,6 +28,7 @@ class ColorChip : public QFrame {
  public:
   explicit ColorChip(Label& label, const QString& name, QWidget* parent = nullptr);
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

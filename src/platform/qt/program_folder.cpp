@@ -16,6 +16,9 @@ bool can_hold_settings(const fs::path& folder) {
   return access((fs::exists(settings) ? settings : folder).c_str(), W_OK) == 0;
 }
 
+// A program that is installed for all users keeps no settings beside itself, even where it could.
+bool installed(const fs::path& folder) { return fs::exists(folder / "../share/applications/trelvo.desktop"); }
+
 std::string variable(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? "" : value;
@@ -28,7 +31,7 @@ std::string choose_folder(const std::string& wished, const std::string& executab
   fs::path folder;
   if (!wished.empty()) {
     folder = fs::absolute(wished);
-  } else if (can_hold_settings(executable)) {
+  } else if (!installed(executable) && can_hold_settings(executable)) {
     return executable;
   } else {
     // A relative configuration folder counts as none.
@@ -40,7 +43,8 @@ std::string choose_folder(const std::string& wished, const std::string& executab
 }
 
 std::string program_folder(const std::string& wished) {
-  const fs::path executable = fs::canonical("/proc/self/exe").parent_path();
+  std::error_code unknown;
+  const fs::path executable = fs::canonical("/proc/self/exe", unknown).parent_path();
   return choose_folder(wished, executable.string(), variable("XDG_CONFIG_HOME"), variable("HOME"));
 }
 

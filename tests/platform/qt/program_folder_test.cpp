@@ -40,6 +40,13 @@ TEST_F(ProgramFolder, Order) {
   }
 }
 
+TEST_F(ProgramFolder, InstalledForAllUsers) {
+  fs::create_directories(root_ / "share/applications");
+  std::ofstream(in("share/applications/trelvo.desktop")) << "[Desktop Entry]\n";
+  EXPECT_EQ(choose_folder("", in("bin"), in("c"), in("h")), in("c/trelvo"));
+  EXPECT_EQ(choose_folder(in("w"), in("bin"), in("c"), in("h")), in("w"));
+}
+
 TEST_F(ProgramFolder, BarredByAFile) {
   std::ofstream(in("file")) << "x";
   EXPECT_THROW(choose_folder(in("file/sub"), "", "", ""), fs::filesystem_error);

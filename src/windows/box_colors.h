@@ -1,0 +1,24 @@
+// Colours of entry fields, so that what they say stays readable in every theme.
+#pragma once
+
+#include <QColor>
+
+#include "platform/controls.h"
+
+class QLineEdit;
+
+namespace trelvo {
+
+// White and grey say that a field is on or off: in a dark theme it takes that theme's own colours for these. The back
+// colour of a field that shows a colour stays as it is.
+enum class FieldColors { of_state, to_show };
+
+// Now and at each change of the field's colours.
+void follow_colors(QLineEdit* widget, TextBox& box, FieldColors meaning);
+
+// The colour itself if it stands out from the background, else nearer to black or white, whichever does.
+QColor readable_on(const QColor& back, const QColor& color);
+// Black or white.
+QColor readable_on(const QColor& back);
+
+}  // namespace trelvo

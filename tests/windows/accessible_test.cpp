@@ -1,0 +1,207 @@
+// What a screen reader and a keyboard find in each form: every control has a name, and the keyboard reaches it.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <set>
+
+#include "app/app.h"
+#include "windows/desktop_qt.h"
+
+namespace trelvo {
+namespace {
+
+bool wants_name(const QAccessibleInterface& control) {
+  static const std::set<QAccessible::Role> roles{
+      QAccessible::Button,   QAccessible::CheckBox,    QAccessible::RadioButton, QAccessible::EditableText,
+      QAccessible::List,     QAccessible::ScrollBar,   QAccessible::ProgressBar, QAccessible::MenuItem,
+      QAccessible::ComboBox, QAccessible::ButtonMenu,  QAccessible::Grouping,    QAccessible::SpinBox,
+      QAccessible::ToolBar,  QAccessible::PageTabList, QAccessible::Table,       QAccessible::Tree};
+  return roles.contains(control.role()) || control.state().focusable;
+}
+
+// The inner parts of Qt's own views are named by the view.
+bool part_of_view(const QAccessibleInterface& control) {
+  for (QObject* object = control.object(); object != nullptr; object = object->parent()) {
+    if (object->objectName().startsWith("qt_scrollarea_") || object->objectName().startsWith("qt_toolbar_ext"))
+      return true;
+  }
+  return false;
+}
+
+struct Found {
+  int named = 0;
+  std::string nameless;
+};
+
+void walk(const QAccessibleInterface& control, const std::string& path, Found& found) {
+  const std::string here = path + "/" + (control.object() ? control.object()->metaObject()->className() : "?");
+  if (control.state().invisible) return;
+  if (wants_name(control) && !part_of_view(control)) {
+    if (control.text(QAccessible::Name).isEmpty()) {
+      found.nameless += "  " + here + "\n";
+    } else {
+      ++found.named;
+    }
+  }
+  for (int i = 0; i < control.childCount(); ++i) {
+    if (const QAccessibleInterface* child = control.child(i)) walk(*child, here, found);
+  }
+}
+
+// Everything that takes a click takes the keyboard too: by Tab, or with the arrows among its like.
+std::string unreached(const QWidget& window) {
+  std::set<const QWidget*> reached;
+  const QWidget* at = &window;
+  do {
+    at = at->nextInFocusChain();
+    if ((at->focusPolicy() & Qt::TabFocus) != 0) reached.insert(at);
+  } while (at != &window);
+  std::string missing;
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    const bool wanted = widget->isVisibleTo(&window) && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus;
+    const bool inner = widget->objectName().startsWith("qt_") || widget->focusProxy() != nullptr;
+    if (wanted && !inner && !reached.contains(widget))
+      missing += std::string("  ") + widget->metaObject()->className() + "\n";
+  }
+  return missing;
+}
+
+class Accessible : public testing::Test {
+ protected:
+  Accessible() : bas(desktop, folder.path().toStdString()) {
+    desktop.attach(bas);
+    prepara(bas);
+    desktop.run([&] { Main(bas, ""); });
+    auto* nuovo = dynamic_cast<MenuItem*>(bas.frmMain.find("gestfile", 1));
+    desktop.run([&] { scegli(*nuovo); });
+  }
+  ~Accessible() override { desktop.hide_frame(); }
+
+  distipo& doc() { return *bas.attivo(); }
+
+  MenuItem& item(const std::string& name, int index = no_index) {
+    auto* found = dynamic_cast<MenuItem*>(doc().find(name, index));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  void choose(const std::string& name, int index = no_index) {
+    desktop.run([&] { scegli(item(name, index)); });
+  }
+  void click(double x, double y) {
+    const auto scale = static_cast<float>(doc().vista.rapscala);
+    desktop.run([&] { Form_MouseDown(doc(), 1, static_cast<float>(x) * scale, static_cast<float>(y) * scale); });
+  }
+  void right_click() {
+    desktop.run([&] { Form_MouseDown(doc(), 2, 0, 0); });
+  }
+
+  // Runs what opens that many modal windows, looks at each one as it stands, does `inside` with it once, and closes it.
+  void look(int windows, const std::function<void()>& opens, const std::function<void(QWidget&)>& inside = {}) {
+    int seen = 0;
+    bool done = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+      QWidget* window = QApplication::activeModalWidget();
+      if (window == nullptr || !window->isVisible()) return;
+      expect_named(*window);
+      EXPECT_EQ(unreached(*window), "") << window->windowTitle().toStdString();
+      ++seen;
+      if (inside && !done) {
+        done = true;
+        // Not from here: a timer does not run while it runs.
+        QTimer::singleShot(0, window, [inside, window] { inside(*window); });
+        return;
+      }
+      window->close();
+    });
+    watch.start(5);
+    opens();
+    EXPECT_EQ(seen, windows);
+  }
+
+  static void expect_named(QWidget& window, int least = 3) {
+    const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&window);
+    ASSERT_NE(face, nullptr);
+    Found found;
+    walk(*face, "", found);
+    EXPECT_EQ(found.nameless, "") << window.windowTitle().toStdString();
+    EXPECT_GT(found.named, least) << window.windowTitle().toStdString();
+  }
+
+  static QAbstractButton& button(QWidget& window, const QString& text) {
+    for (auto* found : window.findChildren<QAbstractButton*>()) {
+      if (found->text() == text && found->isEnabled() && found->isVisible()) return *found;
+    }
+    ADD_FAILURE() << "no button " << text.toStdString();
+    return *window.findChild<QAbstractButton*>();
+  }
+
+  QTemporaryDir folder;
+  DesktopQt desktop;
+  trelvobas bas;
+};
+
+TEST_F(Accessible, Frame) {
+  QApplication::processEvents();
+  int frames = 0;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (!window->inherits("QMainWindow")) continue;
+    ++frames;
+    expect_named(*window, 45);  // menus, toolbars, strips, the drawing
+  }
+  EXPECT_EQ(frames, 1);
+}
+
+TEST_F(Accessible, Settings) {
+  look(
+      3, [&] { choose("aiutdis", 1); }, [](QWidget& window) { button(window, "Modifica").click(); });
+  look(1, [&] { choose("mnutipolinea"); });
+  look(1, [&] { choose("mnutiposup"); });
+  look(1, [&] { choose("mnutipotesto"); });
+}
+
+TEST_F(Accessible, Printing) {
+  look(
+      2, [&] { choose("opfile", 8); }, [](QWidget& window) { button(window, "Spessore Linee").click(); });
+}
+
+TEST_F(Accessible, ZoomAndProperties) {
+  choose("opdis", 1);
+  click(2, 2);
+  click(8, 5);
+  right_click();
+  choose("opdis", 5);
+  click(10, 2);
+  click(14, 6);
+  click(18, 2);
+  right_click();
+  choose("opdis", 3);
+  click(26, 8);
+  click(20, 8);
+  click(23, 5);
+  choose("opdis", 6);
+  click(30, 2);
+  click(36, 2);
+  click(33, 7);
+  right_click();
+  choose("opdis", 7);
+  click(2, 12);
+  click(8, 16);
+  look(1, [&] { choose("selezoom", 4); });
+
+  // Line, polyline, arc, surface, rectangle: each in its dialog.
+  choose("modifica", 9);
+  click(0, 0);
+  click(45, 19);
+  look(5, [&] { right_click(); });
+}
+
+}  // namespace
+}  // namespace trelvo
