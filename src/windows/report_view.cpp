@@ -93,7 +93,12 @@ ReportView::ReportView(DesktopQt& desktop, videoscritt& form)
   setFrameShape(QFrame::NoFrame);
   setLineWrapMode(QTextEdit::WidgetWidth);
   bind_control(desktop_, this, box_, "Testo");
-  follow(this, box_.BackColor, [this] { show_back_color(this, box_.BackColor); });
+  follow(this, box_.BackColor, [this] {
+    QPalette sheet = palette();
+    sheet.setColor(QPalette::Base, color_of(box_.BackColor));
+    sheet.setColor(QPalette::Text, readable_on(color_of(box_.BackColor)));
+    setPalette(sheet);
+  });
   QObject::connect(document(), &QTextDocument::contentsChange, this,
                    [this](int begin, int /*removed*/, int added) { user_changed(begin, added); });
   QObject::connect(this, &QTextEdit::selectionChanged, this, [this] { user_selected(); });

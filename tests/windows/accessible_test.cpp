@@ -169,7 +169,7 @@ TEST_F(Accessible, Settings) {
 
 TEST_F(Accessible, Printing) {
   look(
-      2, [&] { choose("opfile", 8); }, [](QWidget& window) { button(window, "Spessore Linee").click(); });
+      3, [&] { choose("opfile", 8); }, [](QWidget& window) { button(window, "Spessore Linee").click(); });
 }
 
 TEST_F(Accessible, ZoomAndProperties) {
