@@ -142,9 +142,18 @@ def hatched(program, folder):
     assert 0.05 < measured[4] < 0.6, ("a hatch is neither nothing nor solid", measured[4])
 
 
+def far_away(program, folder):
+    """A line and an outline that run kilometres off the sheet still cross it where they should."""
+    pdf = print_sheet(program, folder, lines("menu opdis 1", "left 1 1", "left 31 16", "right 0 0",
+                                             typed_rectangle(1, 1, 30, 20)), scale=100000, x=0.9995, y=0.9995)
+    near(ink(folder, pdf, (10, 40, 100, 105))[:2], (50, 50), 0.3)
+    for x, y in ((90, 70), (190, 120), (150, 100)):
+        near(ink(folder, pdf, (x - 1, 60, x + 1, 290))[:2], (x - 1, y - 0.5), 0.3)
+
+
 def main():
     program = os.path.abspath(sys.argv[1])
-    for test in (true_size, doubled, white_is_black, hatched):
+    for test in (true_size, doubled, white_is_black, hatched, far_away):
         with tempfile.TemporaryDirectory() as folder:
             test(program, folder)
             print(test.__name__, "holds")

@@ -74,9 +74,16 @@ void Main(trelvobas& bas, const std::string& riga) {
   MDIForm_Load(bas, riga);
 }
 
+void fine_evento(trelvobas& bas) {
+  run_event(bas.desktop, [&] { richiama_stampa(bas); });
+  if (bas.eventi == 0) bas.chiusi.clear();
+}
+
 void attivata(trelvobas& bas, distipo& doc) {
   distipo* prima = bas.attivo();
   if (prima == &doc) return;
+  // The dialog of printing belongs to the document that it was opened for.
+  if (prima != nullptr && bas.Geststamp.WindowState == window_minimised) bas.Geststamp.unload();
   std::erase(bas.ordine, &doc);
   if (prima != nullptr) Form_Deactivate(*prima);
   bas.ordine.push_back(&doc);

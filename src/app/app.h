@@ -15,12 +15,17 @@ void prepara(trelvobas& bas);
 // Shows the frame; `riga` is the command line: empty, or the name of a file, with or without quotation marks.
 void Main(trelvobas& bas, const std::string& riga);
 
-// Runs one event of the user: a run-time error in it is shown, and closed windows are released after the outermost one.
+// What every event of the user ends with: a dialog that stood aside for nothing any more comes back, and closed windows
+// are released after the outermost event.
+void fine_evento(trelvobas& bas);
+
+// Runs one event of the user: a run-time error in it is shown.
 template <class Azione>
 void evento(trelvobas& bas, Azione&& azione) {
   ++bas.eventi;
   run_event(bas.desktop, azione);
-  if (--bas.eventi == 0) bas.chiusi.clear();
+  --bas.eventi;
+  fine_evento(bas);
 }
 
 void nuovodisegno(trelvobas& bas);

@@ -127,8 +127,6 @@ void annullacomando(distipo& doc, int n) {
     cmd.passo = 0;
     ridipingi = deseleziona(doc.dis, c != nullptr && c->nome == "Stira");
     if (c != nullptr && c->tipo != genere::areastampa) cmd.ultimocomando = c->nome;
-    // The dialog that stepped aside for the area comes back.
-    if (c != nullptr && c->tipo == genere::areastampa) doc.bas.Geststamp.WindowState = window_normal;
   }
   for (const int livello : {n, cmd.livello}) {
     reccomando& r = cmd.comandi[static_cast<std::size_t>(livello)];

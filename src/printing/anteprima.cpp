@@ -31,13 +31,8 @@ contorno contorno_di(const distipo& doc, const Oggetto& o) {
 void anteprima(distipo& doc, const Linea& o) {
   RasterSurface& s = foglio(doc);
   const carta c = carta_di(doc);
-  const std::int16_t prima = s.DrawWidth;
-  const std::int32_t stile = s.DrawStyle;
-  s.DrawWidth = round_to_int16(larghezza(doc, o.speslinea, o.colorelinea));
-  s.DrawStyle = o.TipoLinea;
+  const tratto_prestato tratto(s, round_to_int16(larghezza(doc, o.speslinea, o.colorelinea)), o.TipoLinea);
   s.Line(c.x(o.Xi), c.y(o.Yi), c.x(o.Xf), c.y(o.Yf), colore_carta(o.colorelinea));
-  s.DrawWidth = prima;
-  s.DrawStyle = stile;
 }
 
 void anteprima(distipo& doc, const Cerchio& o) {

@@ -1,5 +1,7 @@
 #include "printing/stampa.h"
 
+#include <exception>
+
 #include "commands/comandi_modifica.h"
 #include "commands/comando.h"
 #include "commands/motore.h"
@@ -125,18 +127,25 @@ void stampa_oggetti(distipo& doc, const std::function<void(int)>& avanza) {
   });
 }
 
+// What goes wrong behind the progress window is told by the event that prints, as for a short print.
 void stampa_con_avanzamento(distipo& doc, int numero) {
   trelvobas& bas = doc.bas;
   barprogForm& b = bas.barprog;
+  std::exception_ptr errore;
   b.Caption = "Trelvo -        Attendere . . . . Stampa";
-  b.lavoro = [&doc, &bas, &b, numero] {
-    stampa_oggetti(doc, [&](int stampati) {
-      b.ProgressBar1.Value = b.ProgressBar1.Max * static_cast<float>(stampati) / static_cast<float>(numero);
-      bas.desktop.process_events();
-    });
-    bas.desktop.printer().EndDoc();
+  b.lavoro = [&doc, &bas, &b, &errore, numero] {
+    try {
+      stampa_oggetti(doc, [&](int stampati) {
+        b.ProgressBar1.Value = b.ProgressBar1.Max * static_cast<float>(stampati) / static_cast<float>(numero);
+        bas.desktop.process_events();
+      });
+      bas.desktop.printer().EndDoc();
+    } catch (...) {
+      errore = std::current_exception();
+    }
   };
   bas.desktop.show_modal(b);
+  if (errore) std::rethrow_exception(errore);
 }
 
 // Only what has the mark is written to.
@@ -153,8 +162,18 @@ void azzera_stampare(disegno& dis) {
 // ---- dialog
 
 void Command1_Click(trelvobas& bas) {
-  if (bas.attivo() != nullptr) stampa(*bas.attivo());
+  if (bas.attivo() != nullptr && !stampa(*bas.attivo())) return;
   bas.Geststamp.unload();
+}
+
+bool sceglie_area(const distipo& doc) {
+  return doc.cmd.comando() == comando_area || doc.cmd.comandosospeso.tipo() == comando_area;
+}
+
+void Form_Unload(distipo& doc) {
+  // A zoom in the midst of the picking has nothing to go back to.
+  if (doc.cmd.comandosospeso.tipo() == comando_area) doc.cmd.comandosospeso = {};
+  annullacomando(doc, 2);
 }
 
 }  // namespace
@@ -172,6 +191,13 @@ void inizializ_stampare(disegno& dis) {
 void selfinstamp(distipo& doc) {
   doc.cmd.corrente().tipo(comando_area);
   scrivilabel1(doc);
+}
+
+void richiama_stampa(trelvobas& bas) {
+  distipo* doc = bas.attivo();
+  if (bas.Geststamp.WindowState != window_minimised || doc == nullptr || sceglie_area(*doc)) return;
+  bas.Geststamp.WindowState = window_normal;
+  agganteprima(bas);
 }
 
 void apri_stampa(distipo& doc) {
@@ -198,14 +224,14 @@ void apri_stampa(distipo& doc) {
   bas.desktop.show_modal(f);
 }
 
-void stampa(distipo& doc) {
+bool stampa(distipo& doc) {
   Printer& stampante = doc.bas.desktop.printer();
   stampante.set_ScaleMode(scale_millimetres);
   stampante.FillStyle = 1;
   stampante.FontTransparent = true;
   leggi_caselle(doc.bas, doc.stampa.scalastampa, doc.stampa.origstampax, doc.stampa.origstampay);
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
-  if (!stampante.start()) return;
+  if (!stampante.start()) return false;
   const foglio_in_corso foglio(stampante);
   const int numero = numero_da_stampare(doc.dis);
   if (numero > oggetti_lunghi) {
@@ -214,6 +240,7 @@ void stampa(distipo& doc) {
     stampa_oggetti(doc, {});
     stampante.EndDoc();
   }
+  return true;
 }
 
 void prepara_stampa(trelvobas& bas) {
@@ -238,9 +265,12 @@ void prepara_stampa(trelvobas& bas) {
     f.WindowState = window_minimised;
     selfinstamp(*bas.attivo());
   };
-  f.Command5.Click = [&bas] { bas.desktop.show_modal(bas.Spesslin); };
+  f.Command5.Click = [&bas] {
+    bas.desktop.show_modal(bas.Spesslin);
+    agganteprima(bas);
+  };
   f.Unloaded = [&bas, &f] {
-    if (bas.attivo() != nullptr) annullacomando(*bas.attivo(), 2);
+    if (bas.attivo() != nullptr) Form_Unload(*bas.attivo());
     f.Caption = "Gestione Stampa";
     f.WindowState = window_normal;
     f.Text1.Text = "1";

@@ -34,13 +34,8 @@ contorno contorno_di(const distipo& doc, const Oggetto& o) {
 void su_carta(distipo& doc, const Linea& o) {
   Printer& p = stampante(doc);
   const carta c = carta_di(doc);
-  const std::int16_t prima = p.DrawWidth;
-  const std::int32_t stile = p.DrawStyle;
-  p.DrawWidth = larghezza(doc, o.speslinea, o.colorelinea);
-  p.DrawStyle = o.TipoLinea;
+  const tratto_prestato tratto(p, larghezza(doc, o.speslinea, o.colorelinea), o.TipoLinea);
   p.Line(c.x(o.Xi), c.y(o.Yi), c.x(o.Xf), c.y(o.Yf), colore_carta(o.colorelinea));
-  p.DrawWidth = prima;
-  p.DrawStyle = stile;
 }
 
 void su_carta(distipo& doc, const Cerchio& o) {

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/near_part.h"
 #include "platform/runtime_error.h"
 
 namespace trelvo {
@@ -21,13 +22,10 @@ constexpr double millimetres_per_inch = 25.4;
 constexpr double screen_dots = 96;
 constexpr int hatch_pitch = 8;  // screen pixels
 constexpr double degrees = 180 / 3.14159265358979323846;
-// Beyond any sheet, and still exact in the numbers of a page description.
-constexpr double farthest = 1e7;
 constexpr int most_hatch_lines = 20000;
+constexpr int tallest_letters = 100000;
 
-double near_value(double value) { return std::isnan(value) ? 0 : std::clamp(value, -farthest, farthest); }
-QPointF near_point(double x, double y) { return {near_value(x), near_value(y)}; }
-QPointF near_point(Point p) { return near_point(p.x, p.y); }
+QPointF point_of(Point p) { return QPointF(p.x, p.y); }
 
 QColor color_of(Color color) { return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF}; }
 
@@ -68,22 +66,23 @@ QFont font_of(const Font& font) {
   result.setUnderline(font.underline);
   result.setStrikeOut(font.strikeout);
   result.setKerning(false);
-  result.setPixelSize(std::clamp(std::abs(font.height), 1, 100000));
-  if (font.height <= 0) return result;
+  const int height = std::clamp(font.height, -tallest_letters, tallest_letters);
+  result.setPixelSize(std::max(1, std::abs(height)));
+  if (height <= 0) return result;
   // A positive height is that of the whole cell.
   const double cell = QFontMetricsF(result).height();
-  if (cell > 0) result.setPixelSize(std::max(1, static_cast<int>(std::lround(font.height * font.height / cell))));
+  if (cell > 0) result.setPixelSize(std::max(1, static_cast<int>(std::lround(height / cell * height))));
   return result;
 }
 
 QPolygonF polygon_of(std::span<const Point> points) {
   QPolygonF polygon;
   polygon.reserve(static_cast<qsizetype>(points.size()));
-  for (const Point& p : points) polygon.append(near_point(p));
+  for (const Point& p : points) polygon.append(point_of(p));
   return polygon;
 }
 
-QRectF box_of(Point corner1, Point corner2) { return QRectF(near_point(corner1), near_point(corner2)).normalized(); }
+QRectF box_of(Point corner1, Point corner2) { return QRectF(point_of(corner1), point_of(corner2)).normalized(); }
 
 double angle_from(QPointF centre, Point p) { return std::atan2(centre.y() - p.y, p.x - centre.x()) * degrees; }
 
@@ -108,21 +107,36 @@ void PrintJobQt::finish() {
 
 void PrintJobQt::segment(const Pen& pen, double x1, double y1, double x2, double y2) {
   painter_.setPen(pen_of(pen, dots_));
-  painter_.drawLine(near_point(x1, y1), near_point(x2, y2));
+  if (const auto part = near_part(QLineF(x1, y1, x2, y2))) painter_.drawLine(*part);
 }
 
-void PrintJobQt::paint_polyline(const Pen& pen, std::span<const Point> points) {
+void PrintJobQt::paint_polyline(const Pen& pen, std::span<const Point> points) { stroke(polygon_of(points), pen); }
+
+void PrintJobQt::stroke(const QPolygonF& points, const Pen& pen) {
   painter_.setPen(pen_of(pen, dots_));
-  painter_.drawPolyline(polygon_of(points));
+  if (is_near(points)) {
+    painter_.drawPolyline(points);
+    return;
+  }
+  for (qsizetype i = 1; i < points.size(); ++i) {
+    if (const auto part = near_part(QLineF(points[i - 1], points[i]))) painter_.drawLine(*part);
+  }
 }
 
 void PrintJobQt::paint_polygon(const Pen& pen, const Brush& brush, std::span<const Point> points) {
+  if (points.empty()) return;
+  QPolygonF outline = polygon_of(points);
   QPainterPath path;
   path.setFillRule(Qt::OddEvenFill);
-  path.addPolygon(polygon_of(points));
+  path.addPolygon(near_area(outline));
   path.closeSubpath();
   fill(path, brush);
-  painter_.strokePath(path, pen_of(pen, dots_));
+  if (is_near(outline)) {
+    painter_.strokePath(path, pen_of(pen, dots_));
+  } else {
+    outline.append(outline.first());
+    stroke(outline, pen);
+  }
 }
 
 void PrintJobQt::paint_ellipse(const Pen& pen, const Brush& brush, Point corner1, Point corner2) {
@@ -186,7 +200,7 @@ void PrintJobQt::paint_text(const Font& font, Color color, Point position, const
   // Metrics of the device, in its dots.
   const QFontMetricsF metrics(letters, device_.get());
   painter_.save();
-  painter_.translate(near_point(position));
+  painter_.translate(point_of(position));
   painter_.rotate(-font.escapement / 10.0);
   if (background.opaque) {
     painter_.fillRect(QRectF(0, 0, metrics.horizontalAdvance(line), metrics.height()), color_of(background.color));

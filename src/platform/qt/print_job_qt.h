@@ -32,6 +32,7 @@ class PrintJobQt : public PrintJob {
   void paint_text(const Font& font, Color color, Point position, const std::string& text) override;
 
  private:
+  void stroke(const QPolygonF& points, const Pen& pen);
   void fill(const QPainterPath& shape, const Brush& brush);
   void hatch(const QPainterPath& shape, const Brush& brush);
 
