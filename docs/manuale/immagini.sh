@@ -73,6 +73,7 @@ xdotool type --delay 20 'Terrazza'
 dialog testo 'Inserisci Testo'
 menu f 7
 focus "$(timeout 20 xdotool search --sync --onlyvisible --name 'Gestione stampa' | tail -n 1)"
+keys ctrl+a
 xdotool type --delay 30 '0.15'
 dialog stampa 'Gestione stampa'
 
