@@ -17,17 +17,7 @@
 namespace trelvo {
 namespace {
 
-QApplication& application() {
-  static int count = 1;
-  static char name[] = "test";
-  static char* arguments[] = {name, nullptr};
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QApplication made(count, arguments);
-  return made;
-}
-
 struct Program {
-  QApplication& qt = application();
   DesktopQt desktop;
   trelvobas bas{desktop, "/nowhere"};
   videoscritt form{desktop, "/nowhere"};
