@@ -72,4 +72,27 @@ focus "$(timeout 20 xdotool search --sync --onlyvisible --name 'Inserisci Testo'
 xdotool type --delay 20 'Terrazza'
 dialog testo 'Inserisci Testo'
 menu f 7
+focus "$(timeout 20 xdotool search --sync --onlyvisible --name 'Gestione stampa' | tail -n 1)"
+keys ctrl+a
+xdotool type --delay 30 '0.15'
 dialog stampa 'Gestione stampa'
+
+end
+begin 'Programma di Videoscrittura' "$program" --folder "$folder" --relazione
+sleep 0.5
+xdotool windowsize "$window" 900 420
+focus "$window"
+text() { xdotool type --delay 15 "$1"; }
+keys ctrl+e ctrl+b
+text 'Relazione tecnica'
+keys ctrl+b Return ctrl+l
+text 'Appartamento tipo A, piano primo. Superficie utile: 63 m'
+keys ctrl+shift+p
+text '2'
+keys ctrl+shift+p
+text '. La tavola A.01 riporta:'
+keys Return ctrl+shift+l
+text 'la pianta arredata, in scala 1:50;'
+keys Return
+text 'le misure delle stanze, in centimetri.'
+shot relazione "$window"

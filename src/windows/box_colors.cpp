@@ -37,15 +37,18 @@ QColor back_of(const TextBox& box, FieldColors meaning) {
   return theme.color(QPalette::Active, box.BackColor == rgb(255, 255, 255) ? QPalette::Base : QPalette::Button);
 }
 
-void show_colors(QLineEdit* widget, const TextBox& box, FieldColors meaning) {
-  const QColor back = back_of(box, meaning);
-  const QColor text = box.ForeColor == 0 ? readable_on(back) : readable_on(back, color_of(box.ForeColor));
+void dress(QWidget* widget, const QColor& back, const QColor& text) {
   QPalette palette = widget->palette();
   for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
     palette.setColor(group, QPalette::Base, back);
     palette.setColor(group, QPalette::Text, text);
   }
   widget->setPalette(palette);
+}
+
+void show_colors(QLineEdit* widget, const TextBox& box, FieldColors meaning) {
+  const QColor back = back_of(box, meaning);
+  dress(widget, back, box.ForeColor == 0 ? readable_on(back) : readable_on(back, color_of(box.ForeColor)));
 }
 
 }  // namespace
@@ -62,6 +65,8 @@ QColor readable_on(const QColor& back, const QColor& color) {
   }
   return found;
 }
+
+void show_back_color(QWidget* widget, Color color) { dress(widget, color_of(color), readable_on(color_of(color))); }
 
 void follow_colors(QLineEdit* widget, TextBox& box, FieldColors meaning) {
   const auto show = [widget, &box, meaning] { show_colors(widget, box, meaning); };

@@ -6,6 +6,7 @@
 #include "platform/controls.h"
 
 class QLineEdit;
+class QWidget;
 
 namespace trelvo {
 
@@ -15,6 +16,9 @@ enum class FieldColors { of_state, to_show };
 
 // Now and at each change of the field's colours.
 void follow_colors(QLineEdit* widget, TextBox& box, FieldColors meaning);
+
+// The back colour of a field that is paper, and black or white on it.
+void show_back_color(QWidget* widget, Color color);
 
 // The colour itself if it stands out from the background, else nearer to black or white, whichever does.
 QColor readable_on(const QColor& back, const QColor& color);

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QTimer>
 
 #include "windows/binding.h"
@@ -26,6 +27,8 @@ void FormDialog::run() {
   if (!form_.Visible) return;
   setModal(true);
   show();
+  // Typing replaces what the first field holds.
+  if (auto* entry = qobject_cast<QLineEdit*>(focusWidget())) entry->selectAll();
   // A form that stands aside gives the windows behind it free.
   const Listening aside =
       form_.WindowState.listen([&] { setVisible(form_.Visible && form_.WindowState != window_minimised); });

@@ -12,7 +12,9 @@
 #include <set>
 
 #include "app/app.h"
+#include "report/videoscritt.h"
 #include "windows/desktop_qt.h"
+#include "windows/report_window.h"
 
 namespace trelvo {
 namespace {
@@ -102,7 +104,8 @@ class Accessible : public testing::Test {
     desktop.run([&] { Form_MouseDown(doc(), 2, 0, 0); });
   }
 
-  // Runs what opens that many modal windows, looks at each one as it stands, does `inside` with it once, and closes it.
+  // Runs what opens that many modal windows, one that comes back counted again, looks at each one as it stands, does
+  // `inside` with it once, and closes it.
   void look(int windows, const std::function<void()>& opens, const std::function<void(QWidget&)>& inside = {}) {
     int seen = 0;
     bool done = false;
@@ -165,6 +168,21 @@ TEST_F(Accessible, Settings) {
   look(1, [&] { choose("mnutipolinea"); });
   look(1, [&] { choose("mnutiposup"); });
   look(1, [&] { choose("mnutipotesto"); });
+}
+
+TEST_F(Accessible, Report) {
+  videoscritt report(desktop, folder.path().toStdString());
+  ReportWindow window(desktop, report);
+  desktop.run([&] { apri_relazione(report, ""); });
+  QApplication::processEvents();
+  expect_named(window, 15);  // menus, buttons, the text
+  const auto choose_there = [&](const std::string& name, int index) {
+    auto* found = dynamic_cast<MenuItem*>(report.find(name, index));
+    ASSERT_NE(found, nullptr);
+    desktop.run([&] { scegli(*found); });
+  };
+  look(1, [&] { choose_there("modifi", 5); });
+  look(1, [&] { choose_there("allinea", 5); });
 }
 
 TEST_F(Accessible, Printing) {

@@ -77,12 +77,17 @@ std::string usage() {
          "     trelvo [--folder DIR] --relazione [FILE]\n"
          "     trelvo [--folder DIR] --script FILE|-\n"
          "\n"
-         "  FILE           disegno da aprire (.DIS o .txt)\n"
-         "  --folder DIR   cartella del programma, dove si trova Trelvo.ini\n"
-         "  --relazione    la videoscrittura, sola; FILE è il suo documento (.RTF o testo)\n"
-         "  --script FILE  esegue i comandi di FILE, o dello standard input (-), senza finestre\n"
-         "  --help         mostra questo testo\n"
-         "  --version      mostra la versione\n";
+         "Disegno in due dimensioni.\n"
+         "\n"
+         "  FILE                il disegno da aprire (.DIS, o un disegno in forma di testo, .txt)\n"
+         "  --folder DIR        la cartella del programma, dove si trova Trelvo.ini\n"
+         "  --relazione [FILE]  mostra la sola videoscrittura, con un documento (.RTF o testo)\n"
+         "  --script FILE       esegue i comandi di FILE, o dello standard input (-), senza finestre\n"
+         "  -h, --help          mostra questo testo\n"
+         "  --version           mostra la versione\n"
+         "  --                  quel che segue è un nome di file\n"
+         "\n"
+         "Il manuale: man trelvo, e /usr/share/doc/trelvo/manuale/index.html\n";
 }
 
 }  // namespace trelvo
