@@ -1,6 +1,6 @@
-// trelvo_random_user [--seed N] [--steps N] [--session N] [--seconds N]: sessions of N steps each, one seed after the
-// other, until all steps are played or the time is up. What fails is printed as a script, with what it printed; the
-// files that it needs are made first.
+// trelvo_random_user [--seed N] [--steps N] [--session N] [--seconds N] [--trail FILE]: sessions of N steps each, one
+// seed after the other, until all steps are played or the time is up. What fails is printed as a script, with what it
+// printed. The trail is the script of the session at hand, for one that ends the process.
 #include <unistd.h>
 
 #include <chrono>
@@ -20,6 +20,7 @@ struct Options {
   long steps = 20000;
   int session = 500;
   double seconds = 1e9;
+  std::string trail;
 };
 
 bool read_options(int argc, char** argv, Options& options) {
@@ -34,6 +35,8 @@ bool read_options(int argc, char** argv, Options& options) {
       options.session = static_cast<int>(value);
     } else if (name == "--seconds") {
       options.seconds = value;
+    } else if (name == "--trail") {
+      options.trail = argv[i + 1];
     } else {
       return false;
     }
@@ -57,6 +60,7 @@ class Folder {
     fs::current_path(path_);
     fs::copy_file(TRELVO_SEEDS "/dis/all_classes.DIS", "pronto.DIS");
     fs::copy_file(TRELVO_SEEDS "/txt/all_classes.txt", "testo.txt");
+    fs::copy_file(TRELVO_SEEDS "/dis/all_classes.DIS", "copia.DIS~");
     fs::copy_file(TRELVO_SEEDS "/dis/all_classes.DIS", "rotto.DIS");
     fs::resize_file("rotto.DIS", fs::file_size("rotto.DIS") / 2 + 77);
     std::ofstream("vuoto.DIS").flush();
@@ -84,7 +88,7 @@ void tell(const trelvo::Played& played, std::uint64_t seed) {
 int main(int argc, char** argv) {
   Options options;
   if (!read_options(argc, argv, options)) {
-    std::cerr << "usage: trelvo_random_user [--seed N] [--steps N] [--session N] [--seconds N]\n";
+    std::cerr << "usage: trelvo_random_user [--seed N] [--steps N] [--session N] [--seconds N] [--trail FILE]\n";
     return 2;
   }
   const Folder folder;
@@ -94,7 +98,9 @@ int main(int argc, char** argv) {
   long reopened = 0;
   for (; steps < options.steps && seconds() < options.seconds; ++options.seed) {
     folder.make();
-    const trelvo::Played played = trelvo::play(options.seed, options.session);
+    std::ofstream trail;
+    if (!options.trail.empty()) trail.open(options.trail);
+    const trelvo::Played played = trelvo::play(options.seed, options.session, trail);
     steps += played.steps;
     reopened += played.reopened;
     if (!played.broken.empty()) {

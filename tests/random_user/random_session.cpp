@@ -63,14 +63,20 @@ class Reopening {
 // The script, made a line at a time while it runs. It ends when something does not hold.
 class UserLines : public std::streambuf {
  public:
-  UserLines(Session& session, RandomLines& user, int steps, Played& played)
-      : user_(user), invariants_(session.bas), reopening_(session, played), steps_(steps), played_(played) {}
+  UserLines(Session& session, RandomLines& user, int steps, Played& played, std::ostream& trail)
+      : user_(user),
+        trail_(trail),
+        invariants_(session.bas),
+        reopening_(session, played),
+        steps_(steps),
+        played_(played) {}
 
  protected:
   int_type underflow() override {
     if (waiting_.empty() && !next()) return traits_type::eof();
     played_.lines.push_back(waiting_.front());
     line_ = waiting_.front() + '\n';
+    trail_ << line_ << std::flush;
     waiting_.pop_front();
     setg(line_.data(), line_.data(), line_.data() + line_.size());
     return traits_type::to_int_type(*gptr());
@@ -92,6 +98,7 @@ class UserLines : public std::streambuf {
   }
 
   RandomLines& user_;
+  std::ostream& trail_;
   Invariants invariants_;
   Reopening reopening_;
   int steps_;
@@ -104,7 +111,7 @@ class UserLines : public std::streambuf {
 
 }  // namespace
 
-Played play(std::uint64_t seed, int steps) {
+Played play(std::uint64_t seed, int steps, std::ostream& trail) {
   Played played;
   std::ostringstream printed;
   {
@@ -122,7 +129,7 @@ Played play(std::uint64_t seed, int steps) {
     desktop.document_made = [&](distipo& doc) { watch_document(session, doc); };
     prepara(bas);
 
-    UserLines lines(session, user, steps, played);
+    UserLines lines(session, user, steps, played, trail);
     std::istream script(&lines);
     try {
       runner.run(script);

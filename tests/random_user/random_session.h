@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@ struct Played {
   int reopened = 0;  // drawings saved, read again and found equal
 };
 
-Played play(std::uint64_t seed, int steps);
+// Each line also goes to `trail` before it is played.
+Played play(std::uint64_t seed, int steps, std::ostream& trail);
 
 }  // namespace trelvo

@@ -12,11 +12,11 @@
 
 namespace trelvo {
 
-// Every character fills a cell of half the height of the letters.
+// Every character fills a cell of half the height of the letters. No letter is higher than a screen.
 class FakeFonts : public FontService {
  public:
   Size extent(const Font& font, const std::string& text) override {
-    const int height = std::max(1, std::abs(font.height));
+    const int height = std::max(1, std::abs(std::clamp(font.height, -highest, highest)));
     return {static_cast<int>(text_length(text)) * std::max(1, height / 2), height};
   }
   GlyphMask mask(const Font& font, const std::string& text) override {
@@ -24,6 +24,9 @@ class FakeFonts : public FontService {
     const auto pixels = static_cast<std::size_t>(cell.width) * static_cast<std::size_t>(cell.height);
     return {0, 0, cell.width, cell.height, std::vector<std::uint8_t>(pixels, 255)};
   }
+
+ private:
+  static constexpr std::int32_t highest = 2000;
 };
 
 class FakeDesktop : public Desktop {
