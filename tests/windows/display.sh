@@ -5,7 +5,7 @@ for tool in Xvfb xdotool; do
 done
 folder=$(mktemp -d)
 exec 3<>"$folder/.display"
-Xvfb -displayfd 3 -screen 0 "${SCREEN:-1280x800}x24" >/dev/null 2>&1 &
+Xvfb -displayfd 3 -noreset -screen 0 "${SCREEN:-1280x800}x24" >/dev/null 2>&1 &
 server=$!
 running=
 end() {

@@ -9,7 +9,7 @@ done
 
 folder=$(mktemp -d)
 exec 3<>"$folder/display"
-Xvfb -displayfd 3 -screen 0 1280x800x24 >/dev/null 2>&1 &
+Xvfb -displayfd 3 -noreset -screen 0 1280x800x24 >/dev/null 2>&1 &
 server=$!
 running=
 cleanup() {
