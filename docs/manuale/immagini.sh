@@ -28,6 +28,7 @@ cp "$make"/*.png "$pictures"
 
 SCREEN=1280x800
 . "$here/../../tests/windows/display.sh"
+trap 'cleanup; rm -rf "$make"' EXIT
 export LANG=it_IT.UTF-8
 cp "$samples/appartamento.DIS" "$folder/Appartamento.DIS"
 printf '\002\000' | dd of="$folder/Appartamento.DIS" bs=1 seek=970 conv=notrunc status=none

@@ -7,7 +7,8 @@ trelvobas::trelvobas(Desktop& scrivania, const std::string& cartella)
       fileini(cartella),
       impost(scrivania.fonts()),
       TipoLinea(scrivania.fonts()),
-      TipoSuperficie(scrivania.fonts()), Geststamp(scrivania.fonts()) {
+      TipoSuperficie(scrivania.fonts()),
+      Geststamp(scrivania.fonts()) {
   if (fileini.empty() || fileini.back() != '/') fileini += '/';
   fileini += "Trelvo.ini";
 }

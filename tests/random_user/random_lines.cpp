@@ -261,7 +261,8 @@ std::string RandomLines::typed() {
 
 std::string RandomLines::file_name() {
   return dice_.one_of({"\"uno.DIS\"", "\"due.DIS\"", "\"tre.DIS\"", "\"pronto.DIS\"", "\"testo.txt\"", "\"rotto.DIS\"",
-                       "\"manca.DIS\"", "\"manca/uno.DIS\"", "\"cartella\"", "\"vuoto.DIS\"", "\"copia.DIS\"", "\"\"", "cancel"});
+                       "\"manca.DIS\"", "\"manca/uno.DIS\"", "\"cartella\"", "\"vuoto.DIS\"", "\"copia.DIS\"", "\"\"",
+                       "cancel"});
 }
 
 std::string RandomLines::color() {

@@ -5,6 +5,7 @@ for tool in Xvfb xdotool; do
 done
 folder=$(mktemp -d)
 exec 3<>"$folder/.display"
+# A server that resets as its last client leaves would refuse the next one.
 Xvfb -displayfd 3 -noreset -screen 0 "${SCREEN:-1280x800}x24" >/dev/null 2>&1 &
 server=$!
 running=
