@@ -84,8 +84,9 @@ void attivata(trelvobas& bas, distipo& doc) {
   if (prima == &doc) return;
   // The dialog of printing belongs to the document that it was opened for.
   if (prima != nullptr && bas.Geststamp.WindowState == window_minimised) bas.Geststamp.unload();
+  // The window comes to the front whatever the one behind has to tell.
+  if (prima != nullptr) run_event(bas.desktop, [&] { Form_Deactivate(*prima); });
   std::erase(bas.ordine, &doc);
-  if (prima != nullptr) Form_Deactivate(*prima);
   bas.ordine.push_back(&doc);
   Form_Activate(doc);
 }

@@ -97,7 +97,8 @@ void Form_Activate(distipo& doc) {
   trova_disegnoattivo(doc);
   scrivilabel1(doc);
   mostra_interruttori(doc);
-  impfiltri(doc, doc.filtro.filtroattivo);
+  // It writes the settings: one that fails is told, and does not keep the window from the front.
+  run_event(doc.bas.desktop, [&] { impfiltri(doc, doc.filtro.filtroattivo); });
   const bool diverso = doc.surface.ForeColor != tavolozza(colore_segno);
   doc.Shape3.BorderColor = tavolozza(diverso ? colore_segno : colore_segno_altro);
 }

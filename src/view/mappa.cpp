@@ -1,6 +1,8 @@
 #include "view/mappa.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -11,6 +13,12 @@ namespace {
 
 // The scale for a window that gives none.
 constexpr double rapscala_minima = 1e-13;
+
+// A window that grew at the end of the range sees further than a drawing file can tell.
+float memorizzabile(double valore) {
+  constexpr double massimo = std::numeric_limits<float>::max();
+  return static_cast<float>(std::clamp(valore, -massimo, massimo));
+}
 
 }  // namespace
 
@@ -24,10 +32,10 @@ vistaviva vista_viva(const distipo& doc) {
 void memxin(distipo& doc) {
   const Surface& s = doc.surface;
   statovista& v = doc.vista;
-  v.xminvis = static_cast<float>(s.ScaleLeft / v.rapscala);
-  v.yminvis = static_cast<float>(s.ScaleTop / v.rapscala);
-  v.larghezzavis = static_cast<float>(s.ScaleWidth / v.rapscala);
-  v.altezzavis = static_cast<float>(s.ScaleHeight / v.rapscala);
+  v.xminvis = memorizzabile(s.ScaleLeft / v.rapscala);
+  v.yminvis = memorizzabile(s.ScaleTop / v.rapscala);
+  v.larghezzavis = memorizzabile(s.ScaleWidth / v.rapscala);
+  v.altezzavis = memorizzabile(s.ScaleHeight / v.rapscala);
 }
 
 void impost_rapscala(distipo& doc, double x1, double y1, double x2, double y2) {

@@ -59,7 +59,7 @@ class Place:
     def file(self, name):
         return self.watched / name
 
-    def run(self, lines, fault=None, settings_here=False):
+    def run(self, lines, fault=None, settings_here=False, armed_by=ARMED):
         script = self.home / "righe.tsc"
         script.write_text("\n".join(line.replace("@", f"{self.watched}/") for line in lines) + "\n")
         env = {**os.environ, "LC_ALL": "C.UTF-8", "XDG_RUNTIME_DIR": str(self.home)}
@@ -67,7 +67,7 @@ class Place:
             env.pop(gone, None)
         if fault:
             call, nth, do = fault
-            env.update(LD_PRELOAD=SHIM, FAULT_FOLDER=f"{self.watched}/", FAULT_ARMED=ARMED, FAULT_CALL=call,
+            env.update(LD_PRELOAD=SHIM, FAULT_FOLDER=f"{self.watched}/", FAULT_ARMED=armed_by, FAULT_CALL=call,
                        FAULT_NTH=str(nth), FAULT_DO=do, FAULT_MARK=str(self.mark))
         folder = self.watched if settings_here else self.home
         done = subprocess.run([PROGRAM, "--folder", str(folder), "--script", str(script)], env=env,
@@ -276,6 +276,22 @@ class Settings(Operation):
         require(status == 0 and "error" not in again, "the settings are damaged")
 
 
+def full_disk_for_settings(base):
+    """Settings that can never be written are told, and nothing else is kept from working."""
+    place = Place(base)
+    make_drawing(place.file("d.DIS"), 3)
+    status, output = place.run(['menu gestfile 1', "get distipo.Caption", *new_line(), "objects", 'file "@d.DIS"',
+                                "menu opfile 2", "echo APERTO", "get distipo.Caption", "objects", "echo FINE",
+                                "activate 1", "state ndocumenti", "close"],
+                               ("write", 1, f"{errno.ENOSPC}+"), settings_here=True, armed_by="Trelvo.ini")
+    require(status == 0 and "error 61" in output, "settings that cannot be written are not told")
+    require('Caption = "Disegno _ 1"' in output and "\nLinea 1 " in output, f"no new drawing\n{output}")
+    opened = part(output, "APERTO", "FINE")
+    require(f'distipo.Caption = "{place.file("d.DIS")}"' in opened and objects(opened), f"nothing opens\n{output}")
+    require("ndocumenti = 2" in output, "a window is lost")
+    return 1
+
+
 OPERATIONS = (Save, SaveAs, SaveAsNew, Open, Import, lambda: Export("DXF", "mnudxf", "u.dxf"),
               lambda: Export("BMP", "mnucreabmp", "u.bmp"), Settings)
 
@@ -416,10 +432,10 @@ def main():
             faults += [pool.submit(series, base, make, call, do) for make in (Save, Import, Open)
                        for call, do in HARMLESS]
             killed = [pool.submit(kills, base, call, do) for call in KILLS for do in ("before", "after")]
-            around = pool.submit(surroundings, base)
+            around = [pool.submit(job, base) for job in (surroundings, full_disk_for_settings)]
             failed = []
             counts = []
-            for group in (faults, killed, [around]):
+            for group in (faults, killed, around):
                 total = 0
                 for job in group:
                     try:

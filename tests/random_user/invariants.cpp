@@ -44,12 +44,13 @@ class Figures {
     if constexpr (requires { o.colcont; }) add(static_cast<std::uint64_t>(o.colcont));
     if constexpr (requires { o.campitura; }) add(static_cast<std::uint64_t>(o.campitura));
     if constexpr (requires { o.colorelinea; }) add(static_cast<std::uint64_t>(o.colorelinea));
-    if constexpr (requires { o.stringa_testo; }) add(std::hash<std::string>{}(o.stringa_testo));
+    if constexpr (requires { o.stringa_testo; }) add(o.stringa_testo);
   }
+  void add(const std::string& text) { add(std::hash<std::string>{}(text)); }
   std::uint64_t value() const { return value_; }
+  void add(std::uint64_t part) { value_ = (value_ ^ part) * 0x100000001B3U + (value_ >> 29U); }
 
  private:
-  void add(std::uint64_t part) { value_ = (value_ ^ part) * 0x100000001B3U + (value_ >> 29U); }
   std::uint64_t value_ = 0xCBF29CE484222325U;
 };
 
@@ -297,6 +298,28 @@ class KeptLine {
 };
 
 }  // namespace
+
+std::uint64_t seen_by_user(const trelvobas& bas) {
+  Figures all;
+  const distipo* doc = bas.attivo();
+  if (doc == nullptr) return 0;
+  every_object(doc->dis, [&](const auto& o) {
+    all(o);
+    all.add(static_cast<std::uint64_t>(o.stato));
+  });
+  const auto& pixels = doc->surface.Image().pixels;
+  all.add(
+      std::hash<std::string_view>{}({reinterpret_cast<const char*>(pixels.data()), pixels.size() * sizeof pixels[0]}));
+  for (const double number : {doc->filtro.xfiltro, doc->filtro.yfiltro, static_cast<double>(doc->Shape3.Left.get()),
+                              static_cast<double>(doc->cmd.ntrovati)}) {
+    all.add(std::bit_cast<std::uint64_t>(number));
+  }
+  all.add(doc->Shape3.Visible ? 1U : 0U);
+  for (const TextBox* box : {&bas.frmMain.Text1, &bas.frmMain.Text2, &bas.frmMain.Text3, &bas.frmMain.Text4}) {
+    all.add(box->Text.get());
+  }
+  return all.value();
+}
 
 std::vector<std::string> kept_objects(const disegno& dis) {
   KeptLine all;

@@ -43,6 +43,9 @@ class Invariants {
   std::string broken_;
 };
 
+// All objects, the picture and the readouts of the active document, as a number.
+std::uint64_t seen_by_user(const trelvobas& bas);
+
 // The objects of a drawing that are not deleted, as lines that a save and a reading keep: texts as the file holds them.
 std::vector<std::string> kept_objects(const disegno& dis);
 

@@ -100,9 +100,13 @@ int main(int argc, char** argv) {
     folder.make();
     std::ofstream trail;
     if (!options.trail.empty()) trail.open(options.trail);
-    const trelvo::Played played = trelvo::play(options.seed, options.session, trail);
+    trelvo::Played played = trelvo::play(options.seed, options.session, trail);
     steps += played.steps;
     reopened += played.reopened;
+    if (played.broken.empty()) {
+      folder.make();
+      played.broken = trelvo::differs_by_plain_walks(played);
+    }
     if (!played.broken.empty()) {
       tell(played, options.seed);
       return 1;

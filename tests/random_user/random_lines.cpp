@@ -9,6 +9,7 @@ namespace trelvo {
 namespace {
 
 constexpr int most_documents = 4;
+constexpr int widest = 120;                // pixels
 constexpr std::size_t most_objects = 150;  // copies double what is there
 
 std::size_t objects_in(const distipo& doc) {
@@ -31,6 +32,11 @@ std::deque<std::string> RandomLines::next_step() {
   answers_ahead();
   if (doc == nullptr || full) {
     choose_document();
+    return lines_;
+  }
+  if (doc->surface.Image().width > widest && dice_.chance(90)) {
+    // A small picture is soon painted.
+    say("size 1500 900");
     return lines_;
   }
   const int what = dice_.number(1, 100);
@@ -91,7 +97,6 @@ void RandomLines::choose_document() {
     say(dice_.one_of({"close", "menu opfile 5"}));
   } else if (what <= 5) {
     say("menu opfile 1");
-    say("size 1500 900");
   } else if (what <= 9) {
     std::vector<int> open;
     for (const auto& window : bas.finestredocumenti) {

@@ -65,6 +65,7 @@ class UserLines : public std::streambuf {
  public:
   UserLines(Session& session, RandomLines& user, int steps, Played& played, std::ostream& trail)
       : user_(user),
+        bas_(session.bas),
         trail_(trail),
         invariants_(session.bas),
         reopening_(session, played),
@@ -74,6 +75,7 @@ class UserLines : public std::streambuf {
  protected:
   int_type underflow() override {
     if (waiting_.empty() && !next()) return traits_type::eof();
+    played_.seen.push_back(seen_by_user(bas_));
     played_.lines.push_back(waiting_.front());
     line_ = waiting_.front() + '\n';
     trail_ << line_ << std::flush;
@@ -98,6 +100,7 @@ class UserLines : public std::streambuf {
   }
 
   RandomLines& user_;
+  const trelvobas& bas_;
   std::ostream& trail_;
   Invariants invariants_;
   Reopening reopening_;
@@ -109,36 +112,86 @@ class UserLines : public std::streambuf {
   std::string line_;
 };
 
-}  // namespace
+// The lines of a session that was played before.
+class SameLines : public std::streambuf {
+ public:
+  SameLines(const trelvobas& bas, const std::vector<std::string>& lines, Played& played)
+      : bas_(bas), lines_(lines), played_(played) {}
 
-Played play(std::uint64_t seed, int steps, std::ostream& trail) {
-  Played played;
+ protected:
+  int_type underflow() override {
+    if (next_ == lines_.size()) return traits_type::eof();
+    played_.seen.push_back(seen_by_user(bas_));
+    line_ = lines_[next_++] + '\n';
+    setg(line_.data(), line_.data(), line_.data() + line_.size());
+    return traits_type::to_int_type(*gptr());
+  }
+
+ private:
+  const trelvobas& bas_;
+  const std::vector<std::string>& lines_;
+  Played& played_;
+  std::size_t next_ = 0;
+  std::string line_;
+};
+
+// A program and the script that drives it.
+struct Machine {
   std::ostringstream printed;
-  {
-    Output output(printed);
-    FakeFonts fonts;
-    DesktopScript desktop(output, fonts);
-    trelvobas bas(desktop, ".");
-    Session session{bas, desktop, output};
-    Runner runner(session);
-    RandomLines user(session, seed);
-    desktop.use_dialog = [&](const Form& form) {
-      user.shown(form.name);
-      runner.use_dialog(form);
-    };
-    desktop.document_made = [&](distipo& doc) { watch_document(session, doc); };
-    prepara(bas);
+  Output output{printed};
+  FakeFonts fonts;
+  DesktopScript desktop{output, fonts};
+  trelvobas bas{desktop, "."};
+  Session session{bas, desktop, output};
+  Runner runner{session};
 
-    UserLines lines(session, user, steps, played, trail);
+  Machine() {
+    desktop.use_dialog = [this](const Form& form) { runner.use_dialog(form); };
+    desktop.document_made = [this](distipo& doc) { watch_document(session, doc); };
+    prepara(bas);
+  }
+  void run(std::streambuf& lines, Played& played) {
     std::istream script(&lines);
     try {
       runner.run(script);
     } catch (const ScriptFailure& failure) {
       played.broken = failure.what();
     }
+    output.flush();
+    played.output = printed.str();
   }
-  played.output = printed.str();
+};
+
+}  // namespace
+
+Played play(std::uint64_t seed, int steps, std::ostream& trail) {
+  Played played;
+  Machine machine;
+  RandomLines user(machine.session, seed);
+  machine.desktop.use_dialog = [&](const Form& form) {
+    user.shown(form.name);
+    machine.runner.use_dialog(form);
+  };
+  UserLines lines(machine.session, user, steps, played, trail);
+  machine.run(lines, played);
   return played;
+}
+
+std::string differs_by_plain_walks(const Played& played) {
+  Played plain;
+  Machine machine;
+  machine.desktop.document_made = [&](distipo& doc) {
+    doc.dis.con_luoghi = false;
+    watch_document(machine.session, doc);
+  };
+  SameLines lines(machine.bas, played.lines, plain);
+  machine.run(lines, plain);
+  for (std::size_t i = 0; i < played.lines.size(); ++i) {
+    if (i >= plain.seen.size() || plain.seen[i] != played.seen[i]) {
+      return "a plain walk shows something else before line " + std::to_string(i + 1) + ", " + played.lines[i];
+    }
+  }
+  return plain.output == played.output ? std::string() : "a plain walk prints something else";
 }
 
 }  // namespace trelvo

@@ -26,7 +26,7 @@ class FakeFonts : public FontService {
   }
 
  private:
-  static constexpr std::int32_t highest = 2000;
+  static constexpr std::int32_t highest = 400;
 };
 
 class FakeDesktop : public Desktop {
