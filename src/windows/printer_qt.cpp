@@ -48,12 +48,11 @@ Paper PrinterQt::paper() const {
 std::unique_ptr<PrintJob> PrinterQt::make_job() { return to_file() ? file_job() : printer_job(); }
 
 std::unique_ptr<PrintJob> PrinterQt::file_job() {
-  QString name = printer_.outputFileName();
-  if (name.isEmpty()) {
-    name = QFileDialog::getSaveFileName(parent_(), "Stampa su file PDF", QString(), "Documento PDF (*.pdf)");
-    if (name.isEmpty()) return nullptr;
-    if (!name.endsWith(".pdf", Qt::CaseInsensitive)) name += ".pdf";
-  }
+  // Asked each time, or the sheet printed before would be lost.
+  QString name =
+      QFileDialog::getSaveFileName(parent_(), "Stampa su file PDF", printer_.outputFileName(), "Documento PDF (*.pdf)");
+  if (name.isEmpty()) return nullptr;
+  if (!name.endsWith(".pdf", Qt::CaseInsensitive)) name += ".pdf";
   return pdf_job(paper(), file_dots, name.toStdString(), title_());
 }
 

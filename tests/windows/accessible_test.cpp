@@ -214,11 +214,28 @@ TEST_F(Accessible, ZoomAndProperties) {
   click(8, 16);
   look(1, [&] { choose("selezoom", 4); });
 
-  // Line, polyline, arc, surface, rectangle: each in its dialog.
+  Cerchio circle;
+  circle.Xcentro = 14;
+  circle.Ycentro = 14;
+  circle.raggio = 2;
+  doc().dis.collCerchi.aggiungi(circle);
+  testo text;
+  text.stringa_testo = "a";
+  text.dimens_testo = 1;
+  text.pos_testox = 22;
+  text.pos_testoy = 14;
+  doc().dis.collTesti.aggiungi(text);
+
+  // Surface, line, rectangle, text, circle, arc, polyline: each in its dialog, the first with one of its vertices.
   choose("modifica", 9);
   click(0, 0);
   click(45, 19);
-  look(5, [&] { right_click(); });
+  look(
+      9, [&] { right_click(); },
+      [&](QWidget& window) {
+        bas.TipoSuperficie.vertici.List1(0).ListIndex = 1;
+        button(window, "Modifica").click();
+      });
 }
 
 }  // namespace
