@@ -49,10 +49,12 @@ std::unique_ptr<PrintJob> PrinterQt::make_job() { return to_file() ? file_job() 
 
 std::unique_ptr<PrintJob> PrinterQt::file_job() {
   // Asked each time, or the sheet printed before would be lost.
-  QString name =
-      QFileDialog::getSaveFileName(parent_(), "Stampa su file PDF", printer_.outputFileName(), "Documento PDF (*.pdf)");
-  if (name.isEmpty()) return nullptr;
-  if (!name.endsWith(".pdf", Qt::CaseInsensitive)) name += ".pdf";
+  QFileDialog box(parent_(), "Stampa su file PDF", QString(), "Documento PDF (*.pdf)");
+  box.setAcceptMode(QFileDialog::AcceptSave);
+  box.setDefaultSuffix("pdf");
+  if (!printer_.outputFileName().isEmpty()) box.selectFile(printer_.outputFileName());
+  if (box.exec() != QDialog::Accepted) return nullptr;
+  const QString name = box.selectedFiles().first();
   return pdf_job(paper(), file_dots, name.toStdString(), title_());
 }
 
