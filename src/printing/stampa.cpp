@@ -204,6 +204,7 @@ void apri_stampa(distipo& doc) {
   trelvobas& bas = doc.bas;
   GeststampForm& f = bas.Geststamp;
   if (f.loaded()) return;
+  abbandona_sospeso(doc);
   if (!doc.cmd.comando().empty()) annullacomando(doc, doc.cmd.livello);
   {
     const PointerGuard attesa(bas.desktop, pointer_hourglass);

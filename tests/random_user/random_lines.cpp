@@ -220,8 +220,11 @@ void RandomLines::adjust() {
 }
 
 void RandomLines::use_files() {
-  const int what = dice_.number(1, 20);
-  if (what <= 6) {
+  const int what = dice_.number(1, 22);
+  if (what > 20) {
+    dialog("Geststamp", print_lines());
+    say("menu opfile 8");
+  } else if (what <= 6) {
     say("file " + file_name());
     say("menu opfile 2");
   } else if (what <= 10) {
@@ -387,6 +390,33 @@ RandomLines::Lines RandomLines::text_lines() {
                         "\"");
     }
   }
+  return lines;
+}
+
+// The dialog stands aside while the window to print is picked: what is done then may take it away.
+RandomLines::Lines RandomLines::print_lines() {
+  Lines lines;
+  for (int i = dice_.number(1, 4); i > 0; --i) {
+    switch (dice_.number(1, 5)) {
+      case 1:
+        lines.push_back("type Geststamp." + dice_.one_of({"Text1", "Text2", "Text3"}) + " \"" + number() + "\"");
+        break;
+      case 2:
+        lines.push_back("dialog Spesslin");
+        lines.push_back("type Spesslin.Text1(" + std::to_string(dice_.number(0, 15)) + ") \"" + number() + "\"");
+        lines.push_back("press Spesslin." + dice_.one_of({"Command1", "Command2"}));
+        lines.push_back("end");
+        lines.push_back("press Geststamp.Command5");
+        break;
+      default:
+        lines.push_back("press Geststamp.Command4");
+        lines.push_back("left " + coordinate() + " " + coordinate());
+        lines.push_back(dice_.one_of({"left 30 20", "right 1 1", "key 27", "menu selezoom 1", "menu opdis 1",
+                                      "set distipo.HScroll1.Value 40", "menu selezoom 2", "left -1000 -1000"}));
+        if (dice_.chance(50)) lines.push_back("left " + coordinate() + " " + coordinate());
+    }
+  }
+  if (dice_.chance(80)) lines.push_back("press Geststamp." + dice_.one_of({"Command1", "Command2"}));
   return lines;
 }
 

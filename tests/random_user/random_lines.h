@@ -47,6 +47,7 @@ class RandomLines {
   Lines line_lines();
   Lines surface_lines();
   Lines text_lines();
+  Lines print_lines();
   Lines settings_lines();
   Lines color_lines();
   Lines vertex_lines();
