@@ -57,7 +57,11 @@ FrameWindow::FrameWindow(DesktopQt& desktop)
   show_menus();
 }
 
-FrameWindow::~FrameWindow() = default;
+// Its documents go after it, and would tell it so.
+FrameWindow::~FrameWindow() {
+  area_->disconnect(this);
+  form_.Unloaded = {};
+}
 
 void FrameWindow::make_toolbars() {
   for (const auto& [index, toolbar] : form_.Toolbar1.items()) {
