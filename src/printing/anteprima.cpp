@@ -2,6 +2,7 @@
 
 #include "platform/numbers.h"
 #include "printing/carta.h"
+#include "view/conserva_tratto.h"
 #include "view/figure.h"
 
 namespace trelvo {
@@ -31,7 +32,9 @@ contorno contorno_di(const distipo& doc, const Oggetto& o) {
 void anteprima(distipo& doc, const Linea& o) {
   RasterSurface& s = foglio(doc);
   const carta c = carta_di(doc);
-  const tratto_prestato tratto(s, round_to_int16(larghezza(doc, o.speslinea, o.colorelinea)), o.TipoLinea);
+  const conserva_tratto prima(s);
+  s.DrawWidth = round_to_int16(larghezza(doc, o.speslinea, o.colorelinea));
+  s.DrawStyle = o.TipoLinea;
   s.Line(c.x(o.Xi), c.y(o.Yi), c.x(o.Xf), c.y(o.Yf), colore_carta(o.colorelinea));
 }
 

@@ -16,27 +16,6 @@ Color colore_carta(Color colore);
 // The thickness of an outline in sheet units before it becomes a pen's: the object's own, or that of its colour.
 double spessore_carta(const trelvobas& bas, double scala, float spessore, Color colore);
 
-// Lends a surface's width and style to one line, which may fail.
-class tratto_prestato {
- public:
-  tratto_prestato(Surface& superficie, std::int16_t spessore, std::int32_t stile)
-      : superficie_(superficie), spessore_(superficie.DrawWidth), stile_(superficie.DrawStyle) {
-    superficie.DrawWidth = spessore;
-    superficie.DrawStyle = stile;
-  }
-  tratto_prestato(const tratto_prestato&) = delete;
-  tratto_prestato& operator=(const tratto_prestato&) = delete;
-  ~tratto_prestato() {
-    superficie_.DrawWidth = spessore_;
-    superficie_.DrawStyle = stile_;
-  }
-
- private:
-  Surface& superficie_;
-  std::int16_t spessore_;
-  std::int32_t stile_;
-};
-
 // A drawing point on a surface whose ScaleMode is the sheet's unit, in its pixels.
 struct carta {
   const Surface& superficie;

@@ -2,6 +2,7 @@
 
 #include "platform/numbers.h"
 #include "printing/carta.h"
+#include "view/conserva_tratto.h"
 #include "view/figure.h"
 
 namespace trelvo {
@@ -34,7 +35,9 @@ contorno contorno_di(const distipo& doc, const Oggetto& o) {
 void su_carta(distipo& doc, const Linea& o) {
   Printer& p = stampante(doc);
   const carta c = carta_di(doc);
-  const tratto_prestato tratto(p, larghezza(doc, o.speslinea, o.colorelinea), o.TipoLinea);
+  const conserva_tratto prima(p);
+  p.DrawWidth = larghezza(doc, o.speslinea, o.colorelinea);
+  p.DrawStyle = o.TipoLinea;
   p.Line(c.x(o.Xi), c.y(o.Yi), c.x(o.Xf), c.y(o.Yf), colore_carta(o.colorelinea));
 }
 

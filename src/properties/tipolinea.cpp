@@ -7,6 +7,7 @@
 #include "properties/attributi.h"
 #include "properties/contorno.h"
 #include "properties/elenco_vertici.h"
+#include "properties/mostra_scelti.h"
 #include "properties/selezionati.h"
 
 namespace trelvo {
@@ -167,17 +168,10 @@ void mostra_molti(TipoLineaForm& f, const collezione<Classe>& coll, const Classe
 }
 
 template <class Classe>
-void proprieta_di(distipo& doc, int& contatore, const char* titolo_uno, const char* titolo_molti) {
-  const collezione<Classe>& coll = collezione_di<Classe>(std::as_const(doc.dis));
-  const scelti s = conta_scelti(coll);
-  if (s.numero == 0) return;
-  contatore = 1;
+void proprieta_di(distipo& doc, int& contatore, const titoli_scelti& titoli) {
   TipoLineaForm& f = doc.bas.TipoLinea;
-  f.Caption = s.numero == 1 ? titolo_uno : titolo_molti;
-  f.Label5.Caption = std::to_string(s.primo);
-  if (s.numero > 1) mostra_molti(f, coll, coll(s.primo));
-  doc.bas.desktop.show_modal(f);
-  per_scelti<Classe>(doc.dis, [](Classe& o) { o.stato = stato_presente; });
+  mostra_scelti<Classe>(doc, contatore, f, f.Label5, titoli,
+                        [&f](const auto& coll, const Classe& primo) { mostra_molti(f, coll, primo); });
 }
 
 }  // namespace
@@ -252,13 +246,13 @@ void set_tipoArchi(distipo& doc) { set_molti<Arco>(doc); }
 void set_tipoPoliLinee(distipo& doc) { set_molti<polilinea>(doc); }
 
 void proprieta_linee(distipo& doc, int /*n*/, int& contatore) {
-  proprieta_di<Linea>(doc, contatore, una_linea, molte_linee);
+  proprieta_di<Linea>(doc, contatore, {una_linea, molte_linee});
 }
 void proprieta_archi(distipo& doc, int /*n*/, int& contatore) {
-  proprieta_di<Arco>(doc, contatore, un_arco, molti_archi);
+  proprieta_di<Arco>(doc, contatore, {un_arco, molti_archi});
 }
 void proprieta_polilinee(distipo& doc, int /*n*/, int& contatore) {
-  proprieta_di<polilinea>(doc, contatore, una_polilinea, molte_polilinee);
+  proprieta_di<polilinea>(doc, contatore, {una_polilinea, molte_polilinee});
 }
 
 }  // namespace trelvo

@@ -8,6 +8,7 @@
 #include "properties/attributi.h"
 #include "properties/contorno.h"
 #include "properties/elenco_vertici.h"
+#include "properties/mostra_scelti.h"
 #include "properties/selezionati.h"
 
 namespace trelvo {
@@ -234,17 +235,10 @@ void mostra_molti(TipoSuperficieForm& f, const collezione<Classe>& coll, const C
 }
 
 template <class Classe>
-void proprieta_di(distipo& doc, int& contatore, const char* titolo_uno, const char* titolo_molti) {
-  const collezione<Classe>& coll = collezione_di<Classe>(std::as_const(doc.dis));
-  const scelti s = conta_scelti(coll);
-  if (s.numero == 0) return;
-  contatore = 1;
+void proprieta_di(distipo& doc, int& contatore, const titoli_scelti& titoli) {
   TipoSuperficieForm& f = doc.bas.TipoSuperficie;
-  f.Caption = s.numero == 1 ? titolo_uno : titolo_molti;
-  f.Label1.Caption = std::to_string(s.primo);
-  if (s.numero > 1) mostra_molti(f, coll, coll(s.primo));
-  doc.bas.desktop.show_modal(f);
-  per_scelti<Classe>(doc.dis, [](Classe& o) { o.stato = stato_presente; });
+  mostra_scelti<Classe>(doc, contatore, f, f.Label1, titoli,
+                        [&f](const auto& coll, const Classe& primo) { mostra_molti(f, coll, primo); });
 }
 
 }  // namespace
@@ -318,13 +312,13 @@ void set_tiporettangoli(distipo& doc) { set_molti<Rettangolo>(doc); }
 void set_tipoCerchi(distipo& doc) { set_molti<Cerchio>(doc); }
 
 void proprieta_superfici(distipo& doc, int /*n*/, int& contatore) {
-  proprieta_di<superficie>(doc, contatore, una_superficie, molte_superfici);
+  proprieta_di<superficie>(doc, contatore, {una_superficie, molte_superfici});
 }
 void proprieta_rettangoli(distipo& doc, int /*n*/, int& contatore) {
-  proprieta_di<Rettangolo>(doc, contatore, un_rettangolo, molti_rettangoli);
+  proprieta_di<Rettangolo>(doc, contatore, {un_rettangolo, molti_rettangoli});
 }
 void proprieta_cerchi(distipo& doc, int /*n*/, int& contatore) {
-  proprieta_di<Cerchio>(doc, contatore, un_cerchio, molti_cerchi);
+  proprieta_di<Cerchio>(doc, contatore, {un_cerchio, molti_cerchi});
 }
 
 }  // namespace trelvo

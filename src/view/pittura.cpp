@@ -5,6 +5,7 @@
 #include "geometry/rette.h"
 #include "model/tavolozza.h"
 #include "platform/numbers.h"
+#include "view/conserva_tratto.h"
 #include "view/figure.h"
 
 namespace trelvo {
@@ -13,22 +14,6 @@ namespace {
 
 // Stored width times scale to the width of a pen, in pixels.
 constexpr double divisore_spessore = 2.5;
-
-class conserva_tratto {
- public:
-  explicit conserva_tratto(Surface& s) : surface_(s), spessore_(s.DrawWidth), stile_(s.DrawStyle) {}
-  conserva_tratto(const conserva_tratto&) = delete;
-  conserva_tratto& operator=(const conserva_tratto&) = delete;
-  ~conserva_tratto() {
-    surface_.DrawWidth = spessore_;
-    surface_.DrawStyle = stile_;
-  }
-
- private:
-  Surface& surface_;
-  std::int16_t spessore_;
-  std::int32_t stile_;
-};
 
 // The surface's own operation comes before direct work on its context.
 void prepara_contesto(Surface& s) { s.PSet(s.ScaleLeft, s.ScaleTop, 0); }

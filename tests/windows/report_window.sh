@@ -3,27 +3,7 @@
 # save, the end of the program; what was saved is read back by the scripted face.
 set -euo pipefail
 program=$(realpath "$1")
-for tool in Xvfb xdotool; do
-  command -v $tool >/dev/null || { echo "$tool is missing: the window is not tried"; exit 77; }
-done
-
-folder=$(mktemp -d)
-exec 3<>"$folder/display"
-Xvfb -displayfd 3 -noreset -screen 0 1280x800x24 >/dev/null 2>&1 &
-server=$!
-running=
-cleanup() {
-  [ -n "$running" ] && kill "$running" 2>/dev/null
-  kill "$server" 2>/dev/null
-  wait 2>/dev/null || true
-  rm -rf "$folder"
-}
-trap cleanup EXIT
-for _ in $(seq 100); do
-  [ -s "$folder/display" ] && break
-  sleep 0.1
-done
-export DISPLAY=":$(tr -d '\n' <"$folder/display")" QT_QPA_PLATFORM=xcb
+. "$(dirname "$0")/display.sh"
 
 keys() { xdotool key --delay 60 "$@"; sleep 0.2; }
 words() { xdotool type --delay 30 "$1"; sleep 0.2; }
