@@ -52,7 +52,7 @@ inline void require(bool holds, const char* what) {
 struct FuzzProgram {
   FakeDesktop desktop;
   trelvobas bas{desktop, scratch_folder()};
-  explicit FuzzProgram(float width = 1500, float height = 900) {
+  explicit FuzzProgram(float width = 600, float height = 400) {
     desktop.client = {width, height};
     prepara(bas);
     evento(bas, [&] { Main(bas, ""); });
