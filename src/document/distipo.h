@@ -84,6 +84,7 @@ struct distipo : distipoForm {
     float dy = 0;
   } mouse;
   bool ridimensionato = false;
+  std::string impronta;  // of the file that holds all that was read from it or written to it last; empty for none
 };
 
 }  // namespace trelvo

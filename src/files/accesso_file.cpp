@@ -128,6 +128,18 @@ bool apribile(const std::string& nome, fileaperto::modo come) {
 
 bool leggibile(const std::string& nome) { return apribile(nome, fileaperto::modo::lettura); }
 
+std::string impronta(const std::string& nome) {
+  struct stat stato {};
+  if (::stat(nome.c_str(), &stato) != 0 || !S_ISREG(stato.st_mode)) return {};
+  std::string segni;
+  for (const auto numero : {static_cast<std::intmax_t>(stato.st_dev), static_cast<std::intmax_t>(stato.st_ino),
+                            static_cast<std::intmax_t>(stato.st_size), static_cast<std::intmax_t>(stato.st_mtim.tv_sec),
+                            static_cast<std::intmax_t>(stato.st_mtim.tv_nsec)}) {
+    segni += std::to_string(numero) + ' ';
+  }
+  return segni;
+}
+
 bool scrivibile(const std::string& nome) { return apribile(nome, fileaperto::modo::scrittura); }
 
 }  // namespace trelvo

@@ -49,6 +49,9 @@ class fileaperto {
 // Whether the file can be opened for reading: it is there, and no folder.
 bool leggibile(const std::string& nome);
 
+// Tells one state of a file from any other: which file it is, its length, when it was written. Empty for no file.
+std::string impronta(const std::string& nome);
+
 // Whether the file can be opened for writing; makes an empty one if it is missing, and keeps the contents of one that
 // is there.
 bool scrivibile(const std::string& nome);

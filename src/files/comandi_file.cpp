@@ -29,6 +29,8 @@ void salva_con_nome(trelvobas& bas, distipo& doc) {
       chiedi_nome(bas.desktop, dialogo_pronto(bas), senza_nome(doc.Caption) ? std::string() : doc.Caption.get());
   if (!scrivibile(nome)) return;
   doc.Caption = nome;
+  // Whatever is there, the user said that it may go.
+  doc.impronta = impronta(nome);
   salvafile(doc);
 }
 

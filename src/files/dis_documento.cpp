@@ -1,6 +1,6 @@
 #include "files/dis_documento.h"
 
-#include <vector>
+#include <array>
 
 #include "commands/prompt.h"
 #include "commands/zoom.h"
@@ -53,21 +53,25 @@ void prendi_vista(distipo& doc, const testatadis& t) {
   }
 }
 
-void leggi_testata(distipo& doc, fileaperto& file, errorerimandato& errore) {
+// Whether it is there to its last value.
+bool leggi_testata(distipo& doc, fileaperto& file, errorerimandato& errore) {
   testatadis testata = testata_di(doc);
-  std::vector<std::byte> byte(lunghezza_testata);
+  std::array<std::byte, lunghezza_testata> byte{};
+  std::size_t letti = 0;
   errore.prova([&] {
-    byte.resize(file.leggi(byte));
-    decodifica(byte, testata, errore);
+    letti = file.leggi(byte);
+    decodifica({byte.data(), letti}, testata, errore);
   });
   prendi_vista(doc, testata);
   prendi_impostazioni(doc,
                       {testata.coloresfondo, testata.colorepuntatore, testata.statostep, testata.passostep,
                        testata.statogriglia, testata.passogriglia},
                       errore);
+  return letti >= lunghezza_testata - lunghezza_slot + sizeof testata.passogriglia;
 }
 
-void leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
+// Whether nothing of it was passed over.
+bool leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
   doc.cmd.statooggetti = 0;
   doc.cmd.statotesti = 0;
   letturadis esito;
@@ -75,6 +79,7 @@ void leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
   errore.prova([&] { leggi_oggetti([&](std::span<std::byte> dove) { return file.leggi(dove); }, doc.dis, esito); });
   nvertici_di_scarto(doc) = esito.nvertici;
   if (esito.riconosciuti) doc.cmd.statooggetti = 1;
+  return esito.intero;
 }
 
 }  // namespace
@@ -82,11 +87,12 @@ void leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
 void salvafile(distipo& doc) {
   memxin(doc);
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
-  sostituzione nuovo(doc.Caption);
+  sostituzione nuovo(doc.Caption, doc.impronta != impronta(doc.Caption));
   try {
     scrivi_disegno(testata_di(doc), doc.dis, nvertici_di_scarto(doc),
                    [&](std::span<const std::byte> dati) { nuovo.scrivi(dati); });
     nuovo.concludi();
+    doc.impronta = impronta(doc.Caption);
   } catch (const RuntimeError& errore) {
     throw nuovo.annotato(errore.number());
   } catch (const std::bad_alloc&) {
@@ -98,15 +104,19 @@ void leggifile(distipo& doc) { leggifile(doc, doc.Caption); }
 
 void leggifile(distipo& doc, const std::string& sorgente) {
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
+  const bool proprio = sorgente == doc.Caption.get();
+  const std::string letto = impronta(sorgente);
   errorerimandato errore;
+  bool intero = false;
   {
     fileaperto file(sorgente, fileaperto::modo::lettura);
-    if (sorgente != doc.Caption.get()) doc.cmd.modificato = 1;
-    leggi_testata(doc, file, errore);
+    if (!proprio) doc.cmd.modificato = 1;
+    intero = leggi_testata(doc, file, errore);
     // The zoom put the pointer back.
     doc.bas.desktop.MousePointer = pointer_hourglass;
-    leggi_disegno(doc, file, errore);
+    intero = leggi_disegno(doc, file, errore) && intero;
   }
+  doc.impronta = proprio && intero && !errore.presente() ? letto : std::string();
   doc.surface.BackColor = tavolozza(doc.imp.coloresfondo.valore);
   errore.prova([&] { redraw(doc); });
   errore.prova([&] {

@@ -7,7 +7,8 @@ namespace trelvo {
 
 // Writes view, settings and all objects that are not deleted, in place of any file of that name. The former file stays
 // under its name followed by "~" until the new one is complete on the disk; a failed write leaves it there and says so
-// in its error. Errors 7, 52, 57, 61, 70, 75, 76.
+// in its error. One that holds what the document never had, because it could not all be read or somebody else wrote it,
+// stays for good. Errors 7, 52, 57, 61, 70, 75, 76.
 void salvafile(distipo& doc);
 
 // Reads a drawing into a new, empty document. A file that cannot be opened raises error 53, 57, 70, 75 or 76 and

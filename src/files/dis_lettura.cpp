@@ -1,5 +1,6 @@
 #include "files/dis_lettura.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <vector>
@@ -25,9 +26,13 @@ class flussorecord {
   // False if there is none in full; else it is valid until the next call.
   bool avanza() {
     if (prossimo_ + lunghezza_slot > letti_) {
+      const bool avanzo = prossimo_ < letti_;
       letti_ = preleva_(blocco_);
       prossimo_ = 0;
-      if (letti_ < lunghezza_slot) return false;
+      if (letti_ < lunghezza_slot) {
+        if (avanzo || letti_ > 0) esito_.intero = false;
+        return false;
+      }
     }
     record_ = blocco_.data() + prossimo_;
     prossimo_ += lunghezza_slot;
@@ -213,11 +218,15 @@ void leggi_oggetti(const prelievo& preleva, disegno& dis, letturadis& esito) {
   flussorecord f(preleva, esito);
   while (f.avanza()) {
     const std::string_view tipo = f.tipo();
-    for (const riga& r : righe) {
-      if (r.tipo != tipo) continue;
-      esito.riconosciuti = true;
-      if (!r.aggiungi(f, dis)) return;
-      break;
+    const auto* r = std::find_if(righe.begin(), righe.end(), [&](const riga& una) { return una.tipo == tipo; });
+    if (r == righe.end()) {
+      esito.intero = false;
+      continue;
+    }
+    esito.riconosciuti = true;
+    if (!r->aggiungi(f, dis)) {
+      esito.intero = false;
+      return;
     }
   }
 }

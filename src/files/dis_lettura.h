@@ -15,6 +15,7 @@ using prelievo = std::function<std::size_t(std::span<std::byte>)>;
 
 struct letturadis {
   bool riconosciuti = false;  // a record was that of an object
+  bool intero = true;         // nothing was passed over
   std::int16_t nvertici = 0;  // of the last record that was read
 };
 

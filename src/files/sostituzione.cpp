@@ -38,12 +38,17 @@ bool leggibile_per_diritti(const fs::file_status& stato) {
   return fs::is_regular_file(stato) && (stato.permissions() & fs::perms::owner_read) != fs::perms::none;
 }
 
-sostituzione::sostituzione(const std::string& nome) : nome_(file_vero(nome)) {
+sostituzione::sostituzione(const std::string& nome, bool vecchio_resta)
+    : nome_(file_vero(nome)), vecchio_resta_(vecchio_resta) {
   std::error_code ignorato;
   const fs::file_status stato = fs::status(nome_, ignorato);
   if (fs::is_regular_file(stato)) {
-    // Those of an unfinished file are not meant to last.
-    if (leggibile_per_diritti(stato)) diritti_ = static_cast<unsigned>(stato.permissions());
+    // An unfinished file is not meant to last, nor are its rights.
+    if (leggibile_per_diritti(stato)) {
+      diritti_ = static_cast<unsigned>(stato.permissions());
+    } else {
+      vecchio_resta_ = false;
+    }
     metti_da_parte();
   } else {
     ordinario_ = !fs::exists(stato);
@@ -86,7 +91,7 @@ void sostituzione::concludi() {
   file_->completa();
   concluso_ = true;
   std::error_code ignorato;
-  if (!conservato_.empty()) fs::remove(conservato_, ignorato);
+  if (!conservato_.empty() && !vecchio_resta_) fs::remove(conservato_, ignorato);
 }
 
 RuntimeError sostituzione::annotato(int errore) const {

@@ -1,5 +1,6 @@
-// A file that takes the place of another one of its name. The old one is moved away first, and goes for good only when
-// the new one is complete on the disk. Until then the new one cannot be read, so that nobody takes it for whole.
+// A file that takes the place of another one of its name. The old one is moved away first, and goes for good, if at
+// all, only when the new one is complete on the disk. Until then the new one cannot be read, so that nobody takes it
+// for whole.
 #pragma once
 
 #include <filesystem>
@@ -24,7 +25,8 @@ class sostituzione {
  public:
   // What stands at `nome` is kept under that name followed by "~", or by more of them if such a file is there.
   // If this fails nothing has changed. A device is written as it is.
-  explicit sostituzione(const std::string& nome);
+  // It goes when the new one is complete, unless it is to stay.
+  explicit sostituzione(const std::string& nome, bool vecchio_resta = false);
   sostituzione(const sostituzione&) = delete;
   sostituzione& operator=(const sostituzione&) = delete;
   // Without `concludi` the part that was written goes, and the old file stays where it is kept.
@@ -43,6 +45,7 @@ class sostituzione {
   std::string nome_;
   std::string conservato_;  // empty: there was nothing to keep
   unsigned diritti_ = 0;
+  bool vecchio_resta_;
   bool ordinario_ = true;
   bool concluso_ = false;
   std::optional<fileaperto> file_;

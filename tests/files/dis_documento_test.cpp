@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 
 #include "full_disk.h"
@@ -180,10 +181,50 @@ TEST(DisDocumento, LeftOverCountLivesAsLongAsTheDocument) {
 
 TEST(DisDocumento, ShorterFileReplacesALongerOne) {
   LoadedProgram p(test_header() + good_line + good_line + good_line);
-  p.doc.dis.collLinee.aggiungi({});
+  EXPECT_EQ(p.error(), 0);
+  for (const std::size_t i : {1U, 3U}) p.doc.dis.collLinee(i).stato = stato_cancellato;
   salvafile(p.doc);
   EXPECT_EQ(fs::file_size(p.doc.Caption.get()), 12U * 242);
   EXPECT_FALSE(fs::exists(p.doc.Caption.get() + "~"));
+}
+
+// What the document never took from a file is not lost by saving over it.
+TEST(DisDocumento, FileThatWasNotAllTakenStaysAside) {
+  const std::string whole = test_header() + good_line;
+  const std::string polyline = TestRecord("Polilinea", 7).p1(1, 2).byte;
+  const std::string not_finite = TestRecord("Linea", 0).p1(std::numeric_limits<double>::infinity(), 2).byte;
+  const auto replaced = [](const std::string& name) { write_bytes(name, "somebody else's"); };
+  const auto left = [](const std::string& /*name*/) {};
+  const struct {
+    std::string bytes;
+    std::function<void(const std::string&)> meanwhile;
+    bool stays;
+  } cases[] = {
+      {whole, left, false},
+      {test_header().substr(0, 2424), left, false},  // nothing behind the last value means anything
+      {test_header().substr(0, 2423), left, true},
+      {whole + good_line.substr(0, 241), left, true},
+      {whole + polyline + good_line, left, true},
+      {whole + TestRecord("Quota", 0).byte, left, true},
+      {whole + not_finite, left, true},
+      {"a letter", left, true},
+      {whole, replaced, true},
+      {"a letter", [](const std::string& name) { fs::remove(name); }, false},
+  };
+  for (const auto& c : cases) {
+    LoadedProgram p(c.bytes);
+    const std::string name = p.doc.Caption;
+    p.error();
+    c.meanwhile(name);
+    const std::string before = fs::exists(name) ? read_bytes(name) : std::string();
+    salvafile(p.doc);
+    EXPECT_EQ(fs::exists(name + "~"), c.stays) << before;
+    EXPECT_EQ(c.stays ? read_bytes(name + "~") : before, before);
+    // What the document wrote itself is its own.
+    salvafile(p.doc);
+    EXPECT_EQ(fs::exists(name + "~"), c.stays);
+    EXPECT_FALSE(fs::exists(name + "~~"));
+  }
 }
 
 TEST(DisDocumento, FailedSaveKeepsTheFormerFile) {
