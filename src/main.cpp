@@ -15,6 +15,7 @@
 #include "script/script.h"
 #include "windows/desktop_qt.h"
 #include "windows/report_window.h"
+#include "windows/safety_copies.h"
 
 namespace {
 
@@ -34,8 +35,10 @@ int run_script(int argc, char** argv, const trelvo::CommandLine& line) {
   return trelvo::esegui_script(line.script, trelvo::program_folder(line.folder), fonts, sheet);
 }
 
-int run_frame(trelvo::DesktopQt& desktop, trelvo::trelvobas& bas, const std::string& file) {
+int run_frame(trelvo::DesktopQt& desktop, trelvo::trelvobas& bas, const std::string& folder, const std::string& file) {
+  trelvo::SafetyCopies copies(desktop, folder);
   desktop.run([&] { trelvo::Main(bas, file); });
+  copies.offer_lost();
   const int status = QApplication::exec();
   desktop.hide_frame();
   return status;
@@ -65,7 +68,7 @@ int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {
   trelvo::trelvobas bas(desktop, folder);
   desktop.attach(bas);
   trelvo::prepara(bas);
-  return line.report ? run_report(desktop, folder, line.file) : run_frame(desktop, bas, line.file);
+  return line.report ? run_report(desktop, folder, line.file) : run_frame(desktop, bas, folder, line.file);
 }
 
 }  // namespace

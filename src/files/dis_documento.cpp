@@ -93,11 +93,19 @@ void salvafile(distipo& doc) {
                    [&](std::span<const std::byte> dati) { nuovo.scrivi(dati); });
     nuovo.concludi();
     doc.impronta = impronta(doc.Caption);
+    doc.salvata = doc.dis.revisione();
   } catch (const RuntimeError& errore) {
     throw nuovo.annotato(errore.number());
   } catch (const std::bad_alloc&) {
     throw nuovo.annotato(error_no_memory);
   }
+}
+
+void scrivi_copia(const distipo& doc, const std::string& nome) {
+  std::int16_t nvertici = 0;
+  fileaperto file(nome, fileaperto::modo::vuotato);
+  scrivi_disegno(testata_di(doc), doc.dis, nvertici, [&](std::span<const std::byte> dati) { file.scrivi(dati); });
+  file.chiudi();
 }
 
 void leggifile(distipo& doc) { leggifile(doc, doc.Caption); }
@@ -117,6 +125,7 @@ void leggifile(distipo& doc, const std::string& sorgente) {
     intero = leggi_disegno(doc, file, errore) && intero;
   }
   doc.impronta = proprio && intero && !errore.presente() ? letto : std::string();
+  if (proprio) doc.salvata = doc.dis.revisione();
   doc.surface.BackColor = tavolozza(doc.imp.coloresfondo.valore);
   errore.prova([&] { redraw(doc); });
   errore.prova([&] {

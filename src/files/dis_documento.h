@@ -11,6 +11,9 @@ namespace trelvo {
 // stays for good. Errors 7, 52, 57, 61, 70, 75, 76.
 void salvafile(distipo& doc);
 
+// The same bytes to a file beside, which changes nothing of the document. Errors 7, 52, 57, 61, 70, 75, 76.
+void scrivi_copia(const distipo& doc, const std::string& nome);
+
 // Reads a drawing into a new, empty document. A file that cannot be opened raises error 53, 57, 70, 75 or 76 and
 // changes nothing. Whatever else is wrong with it, the document takes all that can be read, is painted and idle; then
 // the first fault is raised: 6 for a number that is not finite, 9 for a colour off the palette, 13 for a header value

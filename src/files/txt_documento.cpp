@@ -73,6 +73,7 @@ void leggi_file(distipo& doc, importazione& in_corso, errorerimandato& errore) {
   disegno dis;
   const bool riconosciuti = leggi_oggetti_txt(righe, doc.bas.desktop.regional(), letto, dis);
   doc.dis = std::move(dis);
+  doc.salvata = doc.dis.revisione();
   if (riconosciuti) doc.cmd.statooggetti = 1;
   in_corso.tieni();
 }

@@ -37,6 +37,8 @@ class collezione {
   }
 
   std::size_t numero() const { return numero_; }
+  // How often an object was added or taken for writing.
+  std::uint64_t scritture() const { return scritture_; }
 
   // Positions count from 1. Error 9 outside.
   T& operator()(std::size_t posizione) {
@@ -136,6 +138,7 @@ class collezione {
 
  private:
   void segna(std::size_t indice) {
+    ++scritture_;
     da_collocare_.segna(indice);
     da_usare_.segna(indice);
   }
@@ -166,6 +169,7 @@ class collezione {
 
   std::vector<std::vector<T>> blocchi_;
   std::size_t numero_ = 0;
+  std::uint64_t scritture_ = 0;
   mutable modifiche da_collocare_;
   mutable modifiche da_usare_;
   mutable indici luoghi_;

@@ -20,6 +20,12 @@ struct disegno {
 
   // False makes every walk of the view a plain one over all objects, for comparison.
   bool con_luoghi = true;
+
+  // Another number whenever an object may have changed; 0 for a drawing that was never touched.
+  std::uint64_t revisione() const {
+    return collSuperfici.scritture() + collRettangoli.scritture() + collLinee.scritture() + collPolilinee.scritture() +
+           collTesti.scritture() + collArchi.scritture() + collCerchi.scritture();
+  }
 };
 
 template <class Classe>

@@ -66,6 +66,7 @@ void DesktopQt::hide_frame() { frame_.reset(); }
 
 void DesktopQt::run(const std::function<void()>& action) {
   evento(*bas_, [&] { run_guarded(action); });
+  if (after_event) after_event();
   refresh();
 }
 

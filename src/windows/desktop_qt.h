@@ -26,6 +26,8 @@ class DesktopQt : public Desktop {
 
   // A window that stands in the place of the frame; dialogs open over it.
   void set_main_window(QWidget* window) { main_window_ = window; }
+  // Null while there is none.
+  FrameWindow* frame() const { return frame_.get(); }
   // Takes the frame away, before the program it shows.
   void hide_frame();
 
@@ -36,6 +38,7 @@ class DesktopQt : public Desktop {
 
   // Runs one event of the user, and shows what it changed.
   void run(const std::function<void()>& action);
+  std::function<void()> after_event;
 
   // Where a control's widget is.
   void place_control(Control& control, QWidget* widget) { widgets_[&control] = widget; }

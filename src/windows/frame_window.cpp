@@ -63,6 +63,8 @@ FrameWindow::~FrameWindow() {
   form_.Unloaded = {};
 }
 
+QWidget* FrameWindow::documents_area() const { return area_; }
+
 void FrameWindow::make_toolbars() {
   for (const auto& [index, toolbar] : form_.Toolbar1.items()) {
     auto* bar = new QToolBar(qt(form_.Bands(index).Caption), this);

@@ -24,6 +24,9 @@ class FrameWindow : public QMainWindow {
   explicit FrameWindow(DesktopQt& desktop);
   ~FrameWindow() override;
 
+  // Where the documents are.
+  QWidget* documents_area() const;
+
   // Shows what an event changed.
   void refresh();
 

@@ -1,0 +1,204 @@
+#include "files/copie.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+#include <tuple>
+#include <utility>
+
+#include "files/accesso_file.h"
+#include "files/comandi_file.h"
+#include "files/dis_documento.h"
+#include "files/recupero.h"
+
+namespace trelvo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* cartella_copie = "recupero";
+constexpr const char* estensione_nota = ".nota";
+constexpr const char* estensione_copia = ".DIS";
+constexpr const char* estensione_incompleta = ".nuova";
+
+// A folder that is locked by a program that runs. -1 if it is not there, or is locked already.
+int blocca(const fs::path& cartella) {
+  const int descrittore = ::open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descrittore >= 0 && ::flock(descrittore, LOCK_EX | LOCK_NB) == 0) return descrittore;
+  if (descrittore >= 0) ::close(descrittore);
+  return -1;
+}
+
+// Another program takes an unlocked folder for one that was left, and may have removed it in between.
+bool stessa(int descrittore, const fs::path& cartella) {
+  struct stat aperta {};
+  struct stat presente {};
+  return ::fstat(descrittore, &aperta) == 0 && ::stat(cartella.c_str(), &presente) == 0 &&
+         aperta.st_ino == presente.st_ino;
+}
+
+std::string nota_di(const distipo& doc) { return doc.impronta + '\n' + doc.Caption.get(); }
+
+bool da_copiare(const distipo& doc) { return doc.dis.revisione() != doc.salvata; }
+
+bool scrivi(const fs::path& file, const std::string& testo) {
+  std::ofstream flusso(file, std::ios::binary);
+  flusso << testo << std::flush;
+  return flusso.good();
+}
+
+disegnoperduto leggi_nota(const fs::path& nota) {
+  std::ifstream flusso(nota, std::ios::binary);
+  disegnoperduto perduto;
+  std::getline(flusso, perduto.impronta);
+  perduto.nome.assign(std::istreambuf_iterator<char>(flusso), {});
+  const fs::path copia = fs::path(nota).replace_extension(estensione_copia);
+  if (leggibile(copia.string())) perduto.copia = copia.string();
+  perduto.nota = nota;
+  return perduto;
+}
+
+}  // namespace
+
+copieaperte::~copieaperte() {
+  while (!voci_.empty()) togli(voci_.begin()->first);
+  if (descrittore_ < 0) return;
+  std::error_code ignorato;
+  fs::remove(propria_, ignorato);
+  fs::remove(radice_ / cartella_copie, ignorato);
+  ::close(descrittore_);
+}
+
+bool copieaperte::prepara() {
+  if (descrittore_ >= 0) return true;
+  constexpr int tentativi = 1000;
+  std::error_code errore;
+  fs::create_directories(radice_ / cartella_copie, errore);
+  for (int i = 1; i <= tentativi && !errore; ++i) {
+    propria_ = radice_ / cartella_copie / std::to_string(i);
+    if (!fs::create_directory(propria_, errore)) continue;
+    descrittore_ = blocca(propria_);
+    if (descrittore_ < 0) continue;
+    if (stessa(descrittore_, propria_)) return true;
+    ::close(std::exchange(descrittore_, -1));
+  }
+  return false;
+}
+
+fs::path copieaperte::file(int numero, const char* estensione) const {
+  return propria_ / (std::to_string(numero) + estensione);
+}
+
+void copieaperte::togli(int numero) {
+  std::error_code ignorato;
+  for (const char* estensione : {estensione_copia, estensione_nota, estensione_incompleta}) {
+    if (descrittore_ >= 0) fs::remove(file(numero, estensione), ignorato);
+  }
+  voci_.erase(numero);
+}
+
+void copieaperte::annota(const trelvobas& bas) {
+  std::vector<int> chiusi;
+  for (const auto& [numero, v] : voci_) {
+    const auto posto = static_cast<std::size_t>(numero);
+    if (posto >= bas.finestredocumenti.size() || bas.finestredocumenti[posto].get() != v.doc) chiusi.push_back(numero);
+  }
+  for (const int numero : chiusi) togli(numero);
+  for (const auto& finestra : bas.finestredocumenti) {
+    // A drawing that never had a file is worth a note once it has a copy.
+    if (!finestra || (senza_nome(finestra->Caption) && voci_.count(finestra->numero) == 0)) continue;
+    voce& v = voci_[finestra->numero];
+    v.doc = finestra.get();
+    std::string nota = nota_di(*finestra);
+    if (v.nota != nota && prepara() && scrivi(file(finestra->numero, estensione_nota), nota)) v.nota = std::move(nota);
+  }
+}
+
+void copieaperte::copia(const distipo& doc, voce& v) {
+  v.doc = &doc;
+  const fs::path nuova = file(doc.numero, estensione_incompleta);
+  try {
+    scrivi_copia(doc, nuova.string());
+    fs::rename(nuova, file(doc.numero, estensione_copia));
+    v.copiata = doc.dis.revisione();
+  } catch (const RuntimeError&) {
+  } catch (const std::bad_alloc&) {
+  } catch (const fs::filesystem_error&) {
+  }
+  std::error_code ignorato;
+  fs::remove(nuova, ignorato);
+}
+
+void copieaperte::aggiorna(const trelvobas& bas) {
+  for (const auto& finestra : bas.finestredocumenti) {
+    if (!finestra) continue;
+    const auto trovata = voci_.find(finestra->numero);
+    const bool nota = trovata != voci_.end() && trovata->second.doc == finestra.get();
+    if (!da_copiare(*finestra)) {
+      if (nota) togli(finestra->numero);
+    } else if (!nota || trovata->second.copiata != finestra->dis.revisione()) {
+      if (!nota) togli(finestra->numero);
+      if (prepara()) copia(*finestra, voci_[finestra->numero]);
+    }
+  }
+  annota(bas);
+}
+
+namespace {
+
+void raccogli(const fs::path& cartella, std::vector<disegnoperduto>& trovati) {
+  std::vector<fs::path> note;
+  for (const auto& file : fs::directory_iterator(cartella)) {
+    if (file.path().extension() == estensione_nota) note.push_back(file.path());
+  }
+  for (const fs::path& nota : note) {
+    disegnoperduto perduto = leggi_nota(nota);
+    if (!perduto.copia.empty() || !copia_recuperabile(perduto.nome).empty()) {
+      trovati.push_back(std::move(perduto));
+    } else {
+      copieaperte::dimentica(perduto);
+    }
+  }
+}
+
+// By folder, then by number.
+bool prima(const disegnoperduto& a, const disegnoperduto& b) {
+  const auto ordine = [](const disegnoperduto& p) {
+    return std::tuple(p.nota.parent_path().string(), p.nota.native().size(), p.nota.native());
+  };
+  return ordine(a) < ordine(b);
+}
+
+}  // namespace
+
+std::vector<disegnoperduto> copieaperte::perduti() const {
+  std::vector<disegnoperduto> trovati;
+  std::error_code errore;
+  for (fs::directory_iterator cartella(radice_ / cartella_copie, errore), fine; !errore && cartella != fine;
+       cartella.increment(errore)) {
+    const int descrittore = blocca(cartella->path());
+    if (descrittore < 0) continue;
+    try {
+      raccogli(cartella->path(), trovati);
+    } catch (const fs::filesystem_error&) {
+    }
+    ::close(descrittore);
+  }
+  std::sort(trovati.begin(), trovati.end(), prima);
+  return trovati;
+}
+
+void copieaperte::dimentica(const disegnoperduto& perduto) {
+  std::error_code ignorato;
+  if (!perduto.copia.empty()) fs::remove(perduto.copia, ignorato);
+  fs::remove(perduto.nota, ignorato);
+  fs::remove(perduto.nota.parent_path(), ignorato);
+  fs::remove(perduto.nota.parent_path().parent_path(), ignorato);
+}
+
+}  // namespace trelvo

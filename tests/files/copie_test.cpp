@@ -1,0 +1,132 @@
+#include "files/copie.h"
+
+#include <gtest/gtest.h>
+
+#include "files/dis_documento.h"
+#include "files/sostituzione.h"
+#include "test_program.h"
+
+namespace trelvo {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Documents that the copies are of, in a program's list.
+struct CopiedProgram : TestProgram {
+  distipo& open(int number, const std::string& name) {
+    auto& windows = bas.finestredocumenti;
+    if (windows.size() <= static_cast<std::size_t>(number)) windows.resize(static_cast<std::size_t>(number) + 1);
+    windows[static_cast<std::size_t>(number)] = std::make_unique<distipo>(bas, desktop.fonts(), number);
+    distipo& opened = *windows[static_cast<std::size_t>(number)];
+    opened.Caption = name;
+    opened.surface.resize(15000, 9000);
+    return opened;
+  }
+  void close(int number) { bas.finestredocumenti[static_cast<std::size_t>(number)].reset(); }
+  std::size_t files() const {
+    std::size_t n = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(folder / "p")) n += entry.is_regular_file() ? 1 : 0;
+    return n;
+  }
+};
+
+// The files of a program that is killed, as another one finds them: without its lock.
+std::string killed(const CopiedProgram& p) {
+  const std::string left = p.folder / "resto";
+  fs::remove_all(left);
+  fs::copy(p.folder / "p", left, fs::copy_options::recursive);
+  return left;
+}
+
+TEST(Copie, FollowWhatIsNotSaved) {
+  CopiedProgram p;
+  fs::create_directory(p.folder / "p");
+  copieaperte copies(p.folder / "p");
+  distipo& unnamed = p.open(1, "Disegno _ 1");
+  distipo& named = p.open(2, p.folder / "due.DIS");
+  copies.aggiorna(p.bas);
+  EXPECT_EQ(p.files(), 1U) << "a note of the drawing that has a file";
+  unnamed.dis.collLinee.aggiungi({});
+  named.dis.collLinee.aggiungi({});
+  copies.annota(p.bas);
+  EXPECT_EQ(p.files(), 1U);
+  copies.aggiorna(p.bas);
+  EXPECT_EQ(p.files(), 4U);
+
+  const std::vector<disegnoperduto> lost = copieaperte(killed(p)).perduti();
+  ASSERT_EQ(lost.size(), 2U);
+  EXPECT_EQ(lost[0].nome, "Disegno _ 1");
+  EXPECT_EQ(lost[1].nome, p.folder / "due.DIS");
+  TestProgram reader;
+  reader.doc.Caption = "x";
+  leggifile(reader.doc, lost[1].copia);
+  EXPECT_EQ(reader.doc.dis.collLinee.numero(), 1U);
+  EXPECT_TRUE(copieaperte(p.folder / "p").perduti().empty()) << "a running program has lost nothing";
+
+  salvafile(named);
+  copies.aggiorna(p.bas);
+  EXPECT_EQ(p.files(), 3U) << "a saved drawing needs its note alone";
+  EXPECT_EQ(copieaperte(killed(p)).perduti().size(), 1U);
+  named.dis.collLinee(1).stato = stato_cancellato;
+  copies.aggiorna(p.bas);
+  EXPECT_EQ(p.files(), 4U);
+  // Another window of the same number has nothing of the former one.
+  p.open(1, "Disegno _ 1");
+  copies.annota(p.bas);
+  EXPECT_EQ(p.files(), 2U);
+  p.close(2);
+  copies.annota(p.bas);
+  EXPECT_EQ(p.files(), 0U);
+}
+
+TEST(Copie, OfABrokenSaveAreFoundAndForgotten) {
+  CopiedProgram p;
+  fs::create_directory(p.folder / "p");
+  const std::string name = p.folder / "tre.DIS";
+  {
+    copieaperte copies(p.folder / "p");
+    p.open(1, name);
+    copies.annota(p.bas);
+    EXPECT_TRUE(copieaperte(killed(p)).perduti().empty()) << "nothing to be had";
+    EXPECT_TRUE(fs::is_empty(p.folder / "resto"));
+    write_bytes(name + segno_copia, "old");
+    const copieaperte next(killed(p));
+    const std::vector<disegnoperduto> lost = next.perduti();
+    ASSERT_EQ(lost.size(), 1U);
+    EXPECT_EQ(lost[0].nome, name);
+    EXPECT_EQ(lost[0].copia, "");
+    copieaperte::dimentica(lost[0]);
+    EXPECT_TRUE(next.perduti().empty());
+    EXPECT_TRUE(fs::exists(name + segno_copia));
+  }
+  EXPECT_TRUE(fs::is_empty(p.folder / "p")) << "the program ended as it should";
+}
+
+TEST(Copie, TwoProgramsKeepApart) {
+  CopiedProgram first;
+  CopiedProgram second;
+  fs::create_directory(first.folder / "p");
+  copieaperte of_first(first.folder / "p");
+  copieaperte of_second(first.folder / "p");
+  first.open(1, "a.DIS");
+  second.open(1, "b.DIS");
+  of_first.annota(first.bas);
+  of_second.annota(second.bas);
+  EXPECT_EQ(first.files(), 2U);
+  second.close(1);
+  of_second.annota(second.bas);
+  EXPECT_EQ(first.files(), 1U);
+}
+
+TEST(Copie, NoPlaceForThemIsNoFault) {
+  CopiedProgram p;
+  write_bytes(p.folder / "file", "no folder");
+  copieaperte copies(p.folder / "file");
+  p.open(1, "Disegno _ 1").dis.collLinee.aggiungi({});
+  copies.aggiorna(p.bas);
+  EXPECT_TRUE(copies.perduti().empty());
+  EXPECT_EQ(read_bytes(p.folder / "file"), "no folder");
+}
+
+}  // namespace
+}  // namespace trelvo
