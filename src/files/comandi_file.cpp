@@ -67,6 +67,8 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
   std::string nome;
   std::string sorgente;
   if (!scegli_file(bas, nome, sorgente)) {
+    // The new window's number is the next one's: it has to go, and a size it took meanwhile is nothing to be asked about.
+    doc.cmd.modificato = 0;
     --bas.progrdocumento;
     servizi.scarica(doc);
     return;

@@ -83,10 +83,12 @@ bool copieaperte::prepara() {
     propria_ = radice_ / cartella_copie / std::to_string(i);
     if (!fs::create_directory(propria_, errore)) continue;
     descrittore_ = blocca(propria_);
-    if (descrittore_ < 0) continue;
+    if (descrittore_ < 0) break;
     if (stessa(descrittore_, propria_)) return true;
     ::close(std::exchange(descrittore_, -1));
   }
+  // Where nothing can be locked nothing is left lying.
+  fs::remove(propria_, errore);
   return false;
 }
 

@@ -3,27 +3,18 @@
 #include <fstream>
 #include <iostream>
 
-#include "app/app.h"
 #include "script/failure.h"
-#include "script/runner.h"
+#include "script/machine.h"
 
 namespace trelvo {
 
 int esegui_script(std::istream& righe, std::ostream& uscita, std::ostream& errori, const std::string& cartella,
                   FontService& caratteri, const PdfMaker& fogli) {
-  Output output(uscita);
-  DesktopScript desktop(output, caratteri, fogli);
-  trelvobas bas(desktop, cartella);
-  Session session{bas, desktop, output};
-  Runner runner(session);
-  desktop.use_dialog = [&](const Form& form) { runner.use_dialog(form); };
-  desktop.document_made = [&](distipo& doc) { watch_document(session, doc); };
-
-  prepara(bas);
+  Machine macchina(uscita, cartella, caratteri, fogli);
   try {
-    runner.run(righe);
+    macchina.runner.run(righe);
   } catch (const ScriptFailure& failure) {
-    output.flush();
+    macchina.output.flush();
     errori << failure.what() << '\n';
     return 1;
   }

@@ -13,7 +13,7 @@ struct Commands : TestProgram {
   std::vector<std::string> done;
 
   int run(const std::string& command) {
-    const servizifile services{[&](distipo&) { done.push_back("scarica"); },
+    const servizifile services{[&](distipo& d) { done.push_back(d.cmd.modificato == 1 ? "asks" : "scarica"); },
                                [&](distipo&) { done.push_back("importa"); }};
     return error_of([&] { aprisalvadisegno(bas, command, services); });
   }
@@ -126,6 +126,7 @@ TEST(ComandiFile, Opening) {
     p.bas.nomidocumenti = {"", p.folder / "used.dis", "Disegno _ 2"};
     const std::string name = *c.chosen == '\0' ? "" : p.folder / c.chosen;
     p.desktop.files = {name};
+    p.doc.cmd.modificato = 1;  // the window took another size meanwhile
     EXPECT_EQ(p.run("Apri"), 0) << c.name;
     EXPECT_EQ(p.done, c.done) << c.name;
     EXPECT_EQ(p.doc.Caption.get(), c.opened ? name : "Disegno _ 1") << c.name;
