@@ -6,8 +6,11 @@ Ends with status 77 where poppler-utils is not installed.
 """
 
 import os
+import random
 import re
+import resource
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -151,9 +154,42 @@ def far_away(program, folder):
         near(ink(folder, pdf, (x - 1, 60, x + 1, 290))[:2], (x - 1, y - 0.5), 0.3)
 
 
+def told_failures(program, folder):
+    """A sheet that cannot be written is told, and leaves the old one; a device is no file to be replaced."""
+    pdf = os.path.join(folder, "sheet.pdf")
+    dice = random.Random(1)
+    place = lambda: round(dice.uniform(0, 200), 3)
+    setup = zoomed(*(typed_circle(place(), place(), place()) for _ in range(400)))
+
+    def printed(where, limit=resource.RLIM_INFINITY):
+        script = SCRIPT.format(setup=setup, pdf=where, scale=1, x=0, y=0)
+
+        def fill_disk():
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (limit, resource.getrlimit(resource.RLIMIT_FSIZE)[1]))
+
+        done = subprocess.run([program, "--folder", folder, "--script", "-"], check=True, capture_output=True, text=True,
+                              input=script, preexec_fn=fill_disk)
+        return re.findall(r"^error (\d+) ", done.stdout, re.M)
+
+    enough_for_settings = 8192
+    assert printed(pdf, enough_for_settings) == ["57"], "a full disk"
+    assert not os.path.exists(pdf), "a part of a sheet is left"
+    assert printed(pdf) == [] and os.path.getsize(pdf) > 2 * enough_for_settings, os.path.getsize(pdf)
+    whole = open(pdf, "rb").read()
+    assert printed(pdf, enough_for_settings) == ["57"], "a full disk, over an old sheet"
+    assert open(pdf, "rb").read() == whole, "the old sheet is lost"
+    assert sorted(os.listdir(folder)) == ["Trelvo.ini", "sheet.pdf"], "something else is left"
+    assert printed(os.path.join(folder, "gone", "sheet.pdf")) == ["76"], "a folder that is gone"
+    assert printed(folder) == ["75"], "a folder in the file's place"
+    os.symlink("/dev/full", os.path.join(folder, "device"))
+    assert printed(os.path.join(folder, "device")) == ["57"], "a device that takes nothing"
+    assert not os.path.isfile("/dev/full"), "the device is replaced"
+
+
 def main():
     program = os.path.abspath(sys.argv[1])
-    for test in (true_size, doubled, white_is_black, hatched, far_away):
+    for test in (true_size, doubled, white_is_black, hatched, far_away, told_failures):
         with tempfile.TemporaryDirectory() as folder:
             test(program, folder)
             print(test.__name__, "holds")
