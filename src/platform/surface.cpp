@@ -1,6 +1,8 @@
 #include "platform/surface.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "platform/numbers.h"
 
@@ -49,7 +51,9 @@ double Surface::pixels_per_unit() const {
 Font Surface::device_font() const {
   Font result;
   result.face = font.name;
-  result.height = -round_clamped(font.size * dots_per_inch() / points_per_inch);
+  // A size may be anything that a file holds; the height is negated here and there.
+  constexpr std::int32_t tallest = std::numeric_limits<std::int32_t>::max();
+  result.height = -std::max(round_clamped(font.size * dots_per_inch() / points_per_inch), -tallest);
   if (result.height == 0) result.height = -1;
   result.weight = font.bold ? bold_weight : 0;
   result.italic = font.italic;

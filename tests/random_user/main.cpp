@@ -64,6 +64,9 @@ class Folder {
     fs::copy_file(TRELVO_SEEDS "/dis/all_classes.DIS", "rotto.DIS");
     fs::resize_file("rotto.DIS", fs::file_size("rotto.DIS") / 2 + 77);
     std::ofstream("vuoto.DIS").flush();
+    fs::copy_file(TRELVO_SEEDS "/rtf/writer.rtf", "pronto.rtf");
+    fs::copy_file(TRELVO_SEEDS "/rtf/word.rtf", "rotto.rtf");
+    fs::resize_file("rotto.rtf", fs::file_size("rotto.rtf") / 2);
   }
 
  private:

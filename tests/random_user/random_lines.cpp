@@ -39,6 +39,10 @@ std::deque<std::string> RandomLines::next_step() {
     say("size 1500 900");
     return lines_;
   }
+  if (dice_.chance(session_.report_open() ? 12 : 1)) {
+    for (std::string& line : report_.next_step()) say(std::move(line));
+    return lines_;
+  }
   const int what = dice_.number(1, 100);
   if (what <= 4) {
     choose_document();
@@ -157,6 +161,15 @@ void RandomLines::finish() {
   }
 }
 
+void RandomLines::any_key() {
+  const std::string control = dice_.chance(50) ? dice_.one_of({"frmMain.Text1 ", "frmMain.Text2 "}) : "";
+  if (dice_.chance(50)) {
+    say("keydown " + control + std::to_string(dice_.chance(90) ? dice_.number(0, 255) : dice_.number(-70000, 70000)));
+  } else {
+    say((control.empty() ? "key " : "keypress ") + control + std::to_string(dice_.number(0, 255)));
+  }
+}
+
 void RandomLines::edit() {
   const int what = dice_.number(1, 10);
   if (what <= 6) {
@@ -174,8 +187,10 @@ void RandomLines::edit() {
 }
 
 void RandomLines::look() {
-  const int what = dice_.number(1, 12);
-  if (what <= 5) {
+  const int what = dice_.number(1, 14);
+  if (what > 12) {
+    any_key();
+  } else if (what <= 5) {
     const int zoom = dice_.number(1, 4);
     if (zoom == 4) dialog("zoomp", dialog_lines("zoomp"));
     say((dice_.chance(70) ? "menu selezoom " : "toolbar 3 ") + std::to_string(zoom));
@@ -220,8 +235,11 @@ void RandomLines::adjust() {
 }
 
 void RandomLines::use_files() {
-  const int what = dice_.number(1, 22);
-  if (what > 20) {
+  const int what = dice_.number(1, 23);
+  if (what > 22) {
+    say(dice_.one_of(
+        {"paper none", "paper 210 297", "paper 40 30 60 50", "paper 1 1", "paper 5000 9000"}));
+  } else if (what > 20) {
     dialog("Geststamp", print_lines());
     say("menu opfile 8");
   } else if (what <= 6) {

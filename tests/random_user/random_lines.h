@@ -6,6 +6,7 @@
 #include <string>
 
 #include "random_user/dice.h"
+#include "random_user/report_lines.h"
 #include "script/session.h"
 
 namespace trelvo {
@@ -37,6 +38,7 @@ class RandomLines {
   void look();
   void adjust();
   void use_files();
+  void any_key();
 
   std::string number();
   std::string coordinate();
@@ -57,6 +59,7 @@ class RandomLines {
 
   Session& session_;
   Dice dice_;
+  ReportLines report_{session_, dice_};
   Lines lines_;
   std::map<std::string, int> waiting_;  // blocks of lines given for a form and not yet taken
   bool confirms_ = false;               // the step at hand shows the properties of what is selected

@@ -5,11 +5,11 @@
 #include <sstream>
 #include <streambuf>
 
-#include "app/app.h"
 #include "random_user/invariants.h"
 #include "random_user/random_lines.h"
+#include "random_user/report_lines.h"
 #include "script/failure.h"
-#include "script/runner.h"
+#include "script/machine.h"
 #include "support/desktop_finto.h"
 
 namespace trelvo {
@@ -67,6 +67,7 @@ class UserLines : public std::streambuf {
       : user_(user),
         bas_(session.bas),
         trail_(trail),
+        session_(session),
         invariants_(session.bas),
         reopening_(session, played),
         steps_(steps),
@@ -88,6 +89,7 @@ class UserLines : public std::streambuf {
   bool next() {
     if (begun_) played_.broken = invariants_.broken();
     begun_ = true;
+    if (played_.broken.empty()) played_.broken = report_.broken(session_);
     if (played_.broken.empty()) played_.broken = reopening_.compared();
     if (!played_.broken.empty() || played_.steps >= steps_) return false;
     waiting_ = reopening_.after(step_);
@@ -102,7 +104,9 @@ class UserLines : public std::streambuf {
   RandomLines& user_;
   const trelvobas& bas_;
   std::ostream& trail_;
+  const Session& session_;
   Invariants invariants_;
+  ReportInvariants report_;
   Reopening reopening_;
   int steps_;
   Played& played_;
@@ -136,28 +140,19 @@ class SameLines : public std::streambuf {
 };
 
 // A program and the script that drives it.
-struct Machine {
+struct Driven {
   std::ostringstream printed;
-  Output output{printed};
   FakeFonts fonts;
-  DesktopScript desktop{output, fonts};
-  trelvobas bas{desktop, "."};
-  Session session{bas, desktop, output};
-  Runner runner{session};
+  Machine machine{printed, ".", fonts};
 
-  Machine() {
-    desktop.use_dialog = [this](const Form& form) { runner.use_dialog(form); };
-    desktop.document_made = [this](distipo& doc) { watch_document(session, doc); };
-    prepara(bas);
-  }
   void run(std::streambuf& lines, Played& played) {
     std::istream script(&lines);
     try {
-      runner.run(script);
+      machine.runner.run(script);
     } catch (const ScriptFailure& failure) {
       played.broken = failure.what();
     }
-    output.flush();
+    machine.output.flush();
     played.output = printed.str();
   }
 };
@@ -166,26 +161,28 @@ struct Machine {
 
 Played play(std::uint64_t seed, int steps, std::ostream& trail) {
   Played played;
-  Machine machine;
+  Driven driven;
+  Machine& machine = driven.machine;
   RandomLines user(machine.session, seed);
   machine.desktop.use_dialog = [&](const Form& form) {
     user.shown(form.name);
     machine.runner.use_dialog(form);
   };
   UserLines lines(machine.session, user, steps, played, trail);
-  machine.run(lines, played);
+  driven.run(lines, played);
   return played;
 }
 
 std::string differs_by_plain_walks(const Played& played) {
   Played plain;
-  Machine machine;
+  Driven driven;
+  Machine& machine = driven.machine;
   machine.desktop.document_made = [&](distipo& doc) {
     doc.dis.con_luoghi = false;
     watch_document(machine.session, doc);
   };
   SameLines lines(machine.bas, played.lines, plain);
-  machine.run(lines, plain);
+  driven.run(lines, plain);
   for (std::size_t i = 0; i < played.lines.size(); ++i) {
     if (i >= plain.seen.size() || plain.seen[i] != played.seen[i]) {
       return "a plain walk shows something else before line " + std::to_string(i + 1) + ", " + played.lines[i];

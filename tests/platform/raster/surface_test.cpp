@@ -42,6 +42,22 @@ TEST(Surface, ConvertsLengths) {
   }
 }
 
+TEST(Surface, FontOfAnySizeHasAHeightThatCanBeNegated) {
+  constexpr int tallest = std::numeric_limits<int>::max();
+  const struct {
+    float size;
+    int height;
+  } cases[] = {{12, -16}, {0, -1}, {-12, 16}, {3e38F, -tallest}, {-3e38F, tallest}};
+  Screen screen;
+  std::string traced;
+  screen.surface.hDC().trace = [&](const std::string& call) { traced = call; };
+  for (const auto& c : cases) {
+    screen.surface.font.size = c.size;
+    screen.surface.Print("x");
+    EXPECT_TRUE(traced.starts_with("dc.TextOut height=" + std::to_string(c.height) + " ")) << traced;
+  }
+}
+
 TEST(Surface, LinesKeepBothEndsAndRoundHalvesToTheEven) {
   struct Case {
     std::array<double, 4> line;
