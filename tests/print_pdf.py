@@ -173,17 +173,17 @@ def told_failures(program, folder):
         return re.findall(r"^error (\d+) ", done.stdout, re.M)
 
     enough_for_settings = 8192
-    assert printed(pdf, enough_for_settings) == ["57"], "a full disk"
+    assert printed(pdf, enough_for_settings) == ["61"], "a full disk"
     assert not os.path.exists(pdf), "a part of a sheet is left"
     assert printed(pdf) == [] and os.path.getsize(pdf) > 2 * enough_for_settings, os.path.getsize(pdf)
     whole = open(pdf, "rb").read()
-    assert printed(pdf, enough_for_settings) == ["57"], "a full disk, over an old sheet"
+    assert printed(pdf, enough_for_settings) == ["61"], "a full disk, over an old sheet"
     assert open(pdf, "rb").read() == whole, "the old sheet is lost"
     assert sorted(os.listdir(folder)) == ["Trelvo.ini", "sheet.pdf"], "something else is left"
     assert printed(os.path.join(folder, "gone", "sheet.pdf")) == ["76"], "a folder that is gone"
     assert printed(folder) == ["75"], "a folder in the file's place"
     os.symlink("/dev/full", os.path.join(folder, "device"))
-    assert printed(os.path.join(folder, "device")) == ["57"], "a device that takes nothing"
+    assert printed(os.path.join(folder, "device")) == ["61"], "a device that takes nothing"
     assert not os.path.isfile("/dev/full"), "the device is replaced"
 
 

@@ -260,6 +260,71 @@ class Export(Operation):
         super().check(place, output, whole or refused)
 
 
+class Print(Operation):
+    """To a PDF file, over an old one. Two sheets differ in their dates: a sheet that begins and ends well is whole."""
+    name = "print"
+    old = b"%PDF-1.4 the old one %%EOF\n"
+
+    def prepare(self, place):
+        make_drawing(place.file("d.DIS"), 3)
+        place.file("u.pdf").write_bytes(self.old)
+
+    def lines(self, place):
+        return ['file "@d.DIS"', "menu gestfile 2",
+                *armed(place, ['printto "@u.pdf"', "dialog Geststamp", "press Geststamp.Command1", "end",
+                               "menu opfile 8"])]
+
+    def result(self, place):
+        pdf = place.file("u.pdf").read_bytes()
+        return pdf != self.old and pdf.startswith(b"%PDF-") and pdf.rstrip().endswith(b"%%EOF")
+
+    def check(self, place, output, whole):
+        part(output, "AZIONE", "DOPO")
+        require(whole or told(part(output, "AZIONE", "DOPO")), "nothing was told")
+        require(whole or place.file("u.pdf").read_bytes() == self.old, "the old sheet is lost")
+        require(sorted(os.listdir(place.watched)) == ["d.DIS", "u.pdf"], "a part of a sheet is left")
+
+
+class SaveReport(Operation):
+    """Over an old one. A save that fails ends without a message: the mark of a change stays."""
+    name = "save a report"
+
+    def prepare(self, place):
+        old = (pathlib.Path(SEEDS) / "rtf/writer.rtf").read_bytes()
+        place.file("r.rtf").write_bytes(old)
+        self.old = old
+
+    def lines(self, place):
+        return ["menu gestfile 1", "report", 'file "@r.rtf"', "menu videoscritt.file 2",
+                'set videoscritt.RichTextBox1.SelText "aggiunta"',
+                *armed(place, ["menu videoscritt.file 3"], ["state testomodificato"])]
+
+    def result(self, place):
+        saved = place.file("r.rtf").read_bytes()
+        return saved if saved != self.old else None
+
+    def check(self, place, output, whole):
+        require(whole == ("testomodificato = 0" in output), "the mark of a change is wrong")
+        require(whole or place.file("r.rtf").read_bytes() == self.old, "the old report is lost")
+        require(os.listdir(place.watched) == ["r.rtf"], "a part of a report is left")
+
+
+class OpenReport(SaveReport):
+    name = "open a report"
+
+    def lines(self, place):
+        return ["menu gestfile 1", "report", 'set videoscritt.RichTextBox1.Text "prima"', "answer no",
+                *armed(place, ['file "@r.rtf"', "menu videoscritt.file 2"], ["get videoscritt.RichTextBox1.Text"])]
+
+    def result(self, place):
+        return self.read
+
+    def check(self, place, output, whole):
+        kept = 'RichTextBox1.Text = "prima"' in output
+        require(whole or (kept and "inesistente o non leggibile" in output), "nothing was told, or the text is gone")
+        require(place.file("r.rtf").read_bytes() == self.old, "reading changed the file")
+
+
 class Settings(Operation):
     name = "settings"
     settings_here = True
@@ -293,7 +358,7 @@ def full_disk_for_settings(base):
 
 
 OPERATIONS = (Save, SaveAs, SaveAsNew, Open, Import, lambda: Export("DXF", "mnudxf", "u.dxf"),
-              lambda: Export("BMP", "mnucreabmp", "u.bmp"), Settings)
+              lambda: Export("BMP", "mnucreabmp", "u.bmp"), Print, SaveReport, OpenReport, Settings)
 
 
 def play(base, operation, fault=None):
@@ -301,8 +366,9 @@ def play(base, operation, fault=None):
     place = Place(base)
     operation.prepare(place)
     status, output = place.run(operation.lines(place), fault, operation.settings_here)
-    if isinstance(operation, Open):
-        operation.read = objects(part(output, "DOPO", "FINE")) if status == 0 else None
+    if isinstance(operation, (Open, OpenReport)):
+        lines = part(output, "DOPO", "FINE") if status == 0 else []
+        operation.read = objects(lines) or [line for line in lines if "RichTextBox1.Text" in line]
     return place, status, output, place.mark.exists()
 
 
@@ -363,6 +429,33 @@ def kills(base, call, do):
     return count
 
 
+def kills_of(base, make, call, do, intact):
+    """Whatever a program that was killed left, `intact` says whether nothing is lost."""
+    count = 0
+    for nth in range(1, 100):
+        operation = make()
+        place, status, _, met = play(base, operation, (call, nth, do))
+        if not met:
+            break
+        count += 1
+        where = f"{operation.name}, killed {do} {call} {nth}"
+        require(status == -9, f"{where}: ended with {status}")
+        intact(place, operation, where)
+        shutil.rmtree(place.home)
+    return count
+
+
+def report_is_kept(place, operation, where):
+    saved = place.file("r.rtf").read_bytes()
+    require(saved == operation.old or saved.rstrip(b"\x00\r\n").endswith(b"}") and b"aggiunta" in saved,
+            f"{where}: neither the old report nor the new one")
+
+
+def settings_are_kept(place, _, where):
+    status, output = place.run(["menu gestfile 1", "state statogriglia", "menu aiutdis 6"], settings_here=True)
+    require(status == 0 and "error" not in output, f"{where}: the next start tells of an error\n{output}")
+
+
 def surroundings(base):
     """The file, or its folder, changes behind the program's back."""
     def run(prepare, between, target="@d.DIS"):
@@ -397,6 +490,7 @@ def surroundings(base):
 
     place, said, _ = run(nothing, lambda place: place.file("d.DIS").write_bytes(stranger))
     require(not told(said) and len(records(place.file("d.DIS"))) > 0, "a replaced file is not written")
+    require(place.file("d.DIS~").read_bytes() == stranger, "what somebody else wrote is lost")
 
     place, said, output = run(nothing, lambda place: shutil.rmtree(place.watched))
     require(told(said) and "modificato = 1" in output, "a folder that is gone is not told")
@@ -429,9 +523,12 @@ def main():
             faults = [pool.submit(series, base, make, call, str(number) + lasting)
                       for make in OPERATIONS for call, numbers in ERRORS.items() for number in numbers
                       for lasting in (("", "+") if number == errno.ENOSPC else ("",))]
-            faults += [pool.submit(series, base, make, call, do) for make in (Save, Import, Open)
+            faults += [pool.submit(series, base, make, call, do) for make in (Save, Import, Open, Print, SaveReport, OpenReport)
                        for call, do in HARMLESS]
             killed = [pool.submit(kills, base, call, do) for call in KILLS for do in ("before", "after")]
+            killed += [pool.submit(kills_of, base, make, call, do, intact)
+                       for make, intact in ((SaveReport, report_is_kept), (Settings, settings_are_kept))
+                       for call in KILLS for do in ("before", "after")]
             around = [pool.submit(job, base) for job in (surroundings, full_disk_for_settings)]
             failed = []
             counts = []

@@ -1,20 +1,18 @@
 #include "platform/qt/print_job_qt.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <QPainterPath>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/qt/near_part.h"
 #include "platform/runtime_error.h"
+#include "platform/whole_file.h"
 
 namespace trelvo {
 
@@ -225,44 +223,34 @@ namespace {
 // The sheet is made in memory: the writer would not tell that a full disk took a part of it.
 class PdfJob : public PrintJobQt {
  public:
-  PdfJob(std::unique_ptr<QFileDevice> file, std::unique_ptr<QBuffer> sheet, std::unique_ptr<QPdfWriter> writer,
-         double dots, double left, double top)
-      : PrintJobQt(std::move(writer), dots, left, top), sheet_(std::move(sheet)), file_(std::move(file)) {}
+  PdfJob(std::string file, std::unique_ptr<QBuffer> sheet, std::unique_ptr<QPdfWriter> writer, double dots, double left,
+         double top)
+      : PrintJobQt(std::move(writer), dots, left, top), file_(std::move(file)), sheet_(std::move(sheet)) {}
   ~PdfJob() override { drop(); }
   void finish() override {
     PrintJobQt::finish();
-    auto* safe = qobject_cast<QSaveFile*>(file_.get());
-    const bool written = file_->write(sheet_->data()) == sheet_->size() && file_->flush();
-    if (written && (safe == nullptr || safe->commit())) return;
-    if (safe == nullptr && QFileInfo(file_->fileName()).isFile()) QFile::remove(file_->fileName());
-    throw RuntimeError(error_device_io);
+    replace_whole_file(file_, {sheet_->data().constData(), static_cast<std::size_t>(sheet_->size())});
   }
 
  private:
+  std::string file_;
   std::unique_ptr<QBuffer> sheet_;
-  std::unique_ptr<QFileDevice> file_;
 };
 
-// A file takes the place of an old one when it is whole, where the folder lets it. A device or a pipe is written to.
-std::unique_ptr<QFileDevice> target_of(const QString& name) {
-  const QFileInfo there(name);
-  const bool device = there.exists() && !there.isFile() && !there.isDir();
-  const bool in_place = there.isFile() && !QFileInfo(there.absolutePath()).isWritable();
-  if (device || in_place) return std::make_unique<QFile>(name);
-  return std::make_unique<QSaveFile>(name);
+// What can be known before the sheet is drawn.
+void require_place(const std::string& file) {
+  if (file.empty()) throw RuntimeError(error_file_name);
+  const QFileInfo place(QString::fromStdString(file));
+  const QFileInfo folder(place.absolutePath());
+  if (!folder.isDir()) throw RuntimeError(error_path_not_found);
+  if (place.isDir()) throw RuntimeError(error_path_access);
+  if (place.exists() ? !place.isWritable() : !folder.isWritable()) throw RuntimeError(error_permission);
 }
 
 }  // namespace
 
 std::unique_ptr<PrintJob> pdf_job(const Paper& paper, double dots, const std::string& file, const std::string& title) {
-  auto target = target_of(QString::fromStdString(file));
-  if (file.empty()) throw RuntimeError(error_file_name);
-  if (!target->open(QIODevice::WriteOnly)) {
-    const QFileInfo place(QString::fromStdString(file));
-    throw RuntimeError(!place.absoluteDir().exists() ? error_path_not_found
-                       : place.isDir()               ? error_path_access
-                                                     : error_permission);
-  }
+  require_place(file);
   auto sheet = std::make_unique<QBuffer>();
   sheet->open(QIODevice::WriteOnly);
   auto writer = std::make_unique<QPdfWriter>(sheet.get());
@@ -274,7 +262,7 @@ std::unique_ptr<PrintJob> pdf_job(const Paper& paper, double dots, const std::st
       QPageLayout::Portrait, QMarginsF()));
   const double left = (paper.sheet_width - paper.width) / 2 / millimetres_per_inch * dots;
   const double top = (paper.sheet_height - paper.height) / 2 / millimetres_per_inch * dots;
-  return std::make_unique<PdfJob>(std::move(target), std::move(sheet), std::move(writer), dots, left, top);
+  return std::make_unique<PdfJob>(file, std::move(sheet), std::move(writer), dots, left, top);
 }
 
 }  // namespace trelvo
