@@ -43,7 +43,7 @@ void riapri_perduto(trelvobas& bas, copieaperte& copie, const disegnoperduto& pe
   nuovodisegno(bas);
   distipo& doc = *bas.attivo();
   if (proprio_nome) {
-    bas.nomidocumenti[static_cast<std::size_t>(doc.numero)] = perduto.nome;
+    registra_nome(bas, perduto.nome);
     doc.Caption = perduto.nome;
   }
   leggifile(doc, sorgente);

@@ -56,18 +56,11 @@ bool scegli_file(trelvobas& bas, std::string& nome, std::string& sorgente) {
   return leggibile(sorgente);
 }
 
-void registra_nome(trelvobas& bas, const std::string& nome) {
-  if (bas.ndocumenti < 1) return;
-  const auto posto = static_cast<std::size_t>(bas.ndocumenti);
-  if (bas.nomidocumenti.size() <= posto) bas.nomidocumenti.resize(posto + 1);
-  bas.nomidocumenti[posto] = nome;
-}
-
 void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
   std::string nome;
   std::string sorgente;
   if (!scegli_file(bas, nome, sorgente)) {
-    // The new window's number is the next one's: it has to go, and a size it took meanwhile is nothing to be asked about.
+    // The next window gets this one's number: it has to go, whatever size it took meanwhile.
     doc.cmd.modificato = 0;
     --bas.progrdocumento;
     servizi.scarica(doc);
@@ -83,6 +76,13 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
 }
 
 }  // namespace
+
+void registra_nome(trelvobas& bas, const std::string& nome) {
+  if (bas.ndocumenti < 1) return;
+  const auto posto = static_cast<std::size_t>(bas.ndocumenti);
+  if (bas.nomidocumenti.size() <= posto) bas.nomidocumenti.resize(posto + 1);
+  bas.nomidocumenti[posto] = nome;
+}
 
 bool senza_nome(const std::string& titolo) { return titolo.starts_with(inizio_senza_nome); }
 

@@ -237,8 +237,7 @@ void RandomLines::adjust() {
 void RandomLines::use_files() {
   const int what = dice_.number(1, 23);
   if (what > 22) {
-    say(dice_.one_of(
-        {"paper none", "paper 210 297", "paper 40 30 60 50", "paper 1 1", "paper 5000 9000"}));
+    say(dice_.one_of({"paper none", "paper 210 297", "paper 40 30 60 50", "paper 1 1", "paper 5000 9000"}));
   } else if (what > 20) {
     dialog("Geststamp", print_lines());
     say("menu opfile 8");
