@@ -1,6 +1,7 @@
 #include "windows/binding.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QGroupBox>
@@ -11,6 +12,7 @@
 #include <QVariant>
 
 #include "windows/desktop_qt.h"
+#include "windows/frame_window.h"
 
 namespace trelvo {
 
@@ -43,6 +45,14 @@ class FocusWatch : public QObject {
   Control& control_;
 };
 
+// Qt would hand the keyboard of a widget that goes to the next one in line, which may be another document: the frame
+// keeps it at the one in front.
+void give_up_keyboard(DesktopQt& desktop, QWidget* widget) {
+  const QWidget* focused = QApplication::focusWidget();
+  if (focused == nullptr || widget->window() != desktop.frame()) return;
+  if (focused == widget || widget->isAncestorOf(focused)) desktop.frame()->focus_document();
+}
+
 }  // namespace
 
 void follow(QObject* owner, PropertyBase& property, const std::function<void()>& action) {
@@ -52,8 +62,14 @@ void follow(QObject* owner, PropertyBase& property, const std::function<void()>&
 
 void bind_control(DesktopQt& desktop, QWidget* widget, Control& control, const QString& accessible_name) {
   if (!accessible_name.isEmpty()) widget->setAccessibleName(accessible_name);
-  follow(widget, control.Visible, [widget, &control] { widget->setVisible(control.Visible); });
-  follow(widget, control.Enabled, [widget, &control] { widget->setEnabled(control.Enabled); });
+  follow(widget, control.Visible, [&desktop, widget, &control] {
+    if (!control.Visible) give_up_keyboard(desktop, widget);
+    widget->setVisible(control.Visible);
+  });
+  follow(widget, control.Enabled, [&desktop, widget, &control] {
+    if (!control.Enabled) give_up_keyboard(desktop, widget);
+    widget->setEnabled(control.Enabled);
+  });
   widget->setMouseTracking(true);
   new FocusWatch(widget, desktop, control);
   desktop.place_control(control, widget);

@@ -121,6 +121,8 @@ QSize DocumentWindow::sizeHint() const {
 
 void DocumentWindow::refresh() { canvas_->refresh(); }
 
+void DocumentWindow::set_tab_stop(bool stop) { canvas_->setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
+
 Desktop::ClientSize DocumentWindow::client_size() const {
   return {canvas_->logical_width(), canvas_->logical_height()};
 }

@@ -20,6 +20,8 @@ class DocumentWindow : public QMdiSubWindow {
   distipo& document() { return document_; }
   // Shows what changed in the drawing.
   void refresh();
+  // Whether the tab key comes by: it would bring the document to the front.
+  void set_tab_stop(bool stop);
   Desktop::ClientSize client_size() const;
   // The document is loaded: from here on another size is a resize.
   void opened();

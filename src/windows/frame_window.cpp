@@ -65,6 +65,10 @@ FrameWindow::~FrameWindow() {
 
 QWidget* FrameWindow::documents_area() const { return area_; }
 
+void FrameWindow::focus_document() {
+  if (QMdiSubWindow* window = area_->activeSubWindow()) window->setFocus(Qt::OtherFocusReason);
+}
+
 void FrameWindow::make_toolbars() {
   for (const auto& [index, toolbar] : form_.Toolbar1.items()) {
     auto* bar = new QToolBar(qt(form_.Bands(index).Caption), this);
@@ -118,7 +122,10 @@ void FrameWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void FrameWindow::refresh() {
-  for (const auto& [document, window] : windows_) window->refresh();
+  for (const auto& [document, window] : windows_) {
+    window->refresh();
+    window->set_tab_stop(window == area_->activeSubWindow());
+  }
   show_menus();
 }
 

@@ -26,6 +26,8 @@ class FrameWindow : public QMainWindow {
 
   // Where the documents are.
   QWidget* documents_area() const;
+  // Gives the keyboard to the document in front.
+  void focus_document();
 
   // Shows what an event changed.
   void refresh();

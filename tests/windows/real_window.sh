@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Drives the real window: real_window.sh TRELVO. A line by mouse, one by typed coordinates, a text, a zoom, a save by keyboard;
-# what was saved is read back by the scripted face.
+# Drives the real window: real_window.sh TRELVO. In the second of two documents: a line by mouse, one by typed
+# coordinates, a text, a zoom, a save by keyboard; what was saved is read back by the scripted face.
 set -euo pipefail
 program=$(realpath "$1")
 . "$(dirname "$0")/display.sh"
@@ -21,6 +21,8 @@ sleep 0.5
 xdotool windowfocus --sync "$window"
 sleep 0.3
 menu f 1                # Nuovo
+sleep 0.5
+menu f 1                # another one: what follows stays in it
 sleep 0.5
 menu d 1                # Linea
 point 300 250
