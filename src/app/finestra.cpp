@@ -11,6 +11,7 @@
 #include "files/comandi_file.h"
 #include "files/ini.h"
 #include "model/tavolozza.h"
+#include "platform/numbers.h"
 #include "view/mappa.h"
 #include "view/redraw.h"
 
@@ -97,6 +98,8 @@ void Form_Activate(distipo& doc) {
   trova_disegnoattivo(doc);
   scrivilabel1(doc);
   mostra_interruttori(doc);
+  // Typed points are read at the scale shown: it has to be that of the document they are for.
+  doc.bas.frmMain.Label3.Caption = number_text(doc.vista.rapscala);
   // It writes the settings: one that fails is told, and does not keep the window from the front.
   run_event(doc.bas.desktop, [&] { impfiltri(doc, doc.filtro.filtroattivo); });
   const bool diverso = doc.surface.ForeColor != tavolozza(colore_segno);
