@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 
 #include "platform/runtime_error.h"
 
@@ -90,13 +91,22 @@ class OpenFile {
       bytes.remove_prefix(static_cast<std::size_t>(count));
     }
   }
-  void take_rights(mode_t rights) const { [[maybe_unused]] const int result = ::fchmod(file_, rights & 0777U); }
+  // Nobody reads it until it is shown, with `rights` or those it has now. Where rights cannot be chosen it stays as it
+  // is.
+  void hide(std::optional<mode_t> rights) {
+    const mode_t own = state().st_mode;
+    if (::fchmod(file_, S_IWUSR) == 0) hidden_ = rights.value_or(own) & 0777U;
+  }
+  void show() const {
+    if (hidden_) insist([&] { return ::fchmod(file_, *hidden_); });
+  }
   void to_disk() const {
     insist([&] { return ::fsync(file_); });
   }
 
  private:
   int file_ = -1;
+  std::optional<mode_t> hidden_;
 };
 
 // Goes with its object unless it took another name.
@@ -108,12 +118,17 @@ struct Beside {
   }
 };
 
-// A link stays a link.
+// A link stays a link, also one that leads to nothing yet.
 std::string real_name(const std::string& path) {
+  constexpr int most_links = 40;
   std::error_code error;
-  if (!fs::is_symlink(path, error)) return path;
-  const fs::path real = fs::canonical(path, error);
-  return error ? path : real.string();
+  fs::path real = path;
+  for (int i = 0; i < most_links && fs::is_symlink(real, error); ++i) {
+    const fs::path next = fs::read_symlink(real, error);
+    if (error) return path;
+    real = next.is_absolute() ? next : real.parent_path() / next;
+  }
+  return real.string();
 }
 
 }  // namespace
@@ -142,9 +157,12 @@ void replace_whole_file(const std::string& path, std::string_view bytes) {
   do {
     beside.name += '~';
   } while (fs::exists(fs::symlink_status(beside.name, ignored)));
-  const OpenFile file(beside.name, O_WRONLY | O_CREAT | O_EXCL, 0666);
-  if (fs::exists(old)) file.take_rights(static_cast<mode_t>(old.permissions()));
+  OpenFile file(beside.name, O_WRONLY | O_CREAT | O_EXCL, 0666);
+  std::optional<mode_t> rights;
+  if (fs::exists(old)) rights = static_cast<mode_t>(old.permissions());
+  file.hide(rights);
   file.write(bytes);
+  file.show();
   file.to_disk();
   insist([&] { return std::rename(beside.name.c_str(), name.c_str()); });
   beside.name.clear();

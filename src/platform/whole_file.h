@@ -11,8 +11,8 @@ namespace trelvo {
 std::string read_whole_file(const std::string& path, std::size_t most);
 
 // The bytes become the contents of the file, made if missing, or it stays as it was: they are written beside it and
-// take its name, its rights, and its place behind a link when they are complete on the disk. A device is written as it
-// is.
+// take its name, its rights, and its place behind a link when they are complete on the disk. Until then nobody can read
+// them, so that nobody takes them for whole. A device is written as it is.
 void replace_whole_file(const std::string& path, std::string_view bytes);
 
 }  // namespace trelvo

@@ -1,9 +1,11 @@
 #include "platform/whole_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
@@ -49,6 +51,35 @@ TEST_F(WholeFile, isReplacedWithItsRightsAndBehindItsLink) {
   EXPECT_EQ(read_whole_file(in("a~"), 100), "someone else's");
   EXPECT_EQ(static_cast<unsigned>(fs::status(in("a")).permissions()), 0640U);
   EXPECT_EQ(count(), 3U);
+}
+
+TEST_F(WholeFile, isMadeWhereALinkLeadsWithTheRightsOfANewFile) {
+  fs::create_symlink("new", in("second"));
+  fs::create_symlink(in("second"), in("first"));
+  const mode_t mask = umask(0027);
+  replace_whole_file(in("first"), "text");
+  umask(mask);
+  EXPECT_TRUE(fs::is_symlink(in("first")) && fs::is_symlink(in("second")));
+  EXPECT_EQ(read_whole_file(in("new"), 100), "text");
+  EXPECT_EQ(static_cast<unsigned>(fs::status(in("new")).permissions()), 0640U);
+}
+
+// The system ends the process when its file grows past the limit.
+TEST_F(WholeFile, aPartThatAKilledProcessLeavesIsNotReadable) {
+  replace_whole_file(in("a"), "old");
+  const auto killed = [&] {
+    constexpr rlimit no_core{0, 0};
+    constexpr rlimit small_file{1000, 1000};
+    setrlimit(RLIMIT_CORE, &no_core);
+    setrlimit(RLIMIT_FSIZE, &small_file);
+    replace_whole_file(in("a"), std::string(5000, 'x'));
+  };
+  EXPECT_EXIT(killed(), testing::KilledBySignal(SIGXFSZ), "");
+  EXPECT_EQ(read_whole_file(in("a"), 100), "old");
+  EXPECT_EQ(fs::file_size(in("a~")), 1000U);
+  EXPECT_EQ(static_cast<unsigned>(fs::status(in("a~")).permissions()) & 0444U, 0U);
+  replace_whole_file(in("a"), "new");
+  EXPECT_EQ(read_whole_file(in("a"), 100), "new");
 }
 
 TEST_F(WholeFile, whatCannotBeReadOrWrittenIsTold) {
