@@ -341,6 +341,37 @@ class Settings(Operation):
         require(status == 0 and "error" not in again, "the settings are damaged")
 
 
+class SaveReportAs(Operation):
+    """Over another report. A save that fails ends without a message: name and mark of a change stay."""
+    name = "save a report as"
+    target = "altra.rtf"
+    action = ["answer yes", f'file "@{target}"', "menu videoscritt.file 4"]
+
+    def prepare(self, place):
+        seeds = pathlib.Path(SEEDS) / "rtf"
+        shutil.copy(seeds / "writer.rtf", place.file("r.rtf"))
+        shutil.copy(seeds / "word.rtf", place.file(self.target))
+        self.own = place.file("r.rtf").read_bytes()
+        self.other = place.file(self.target).read_bytes()
+
+    def lines(self, place):
+        return ["menu gestfile 1", "report", 'file "@r.rtf"', "menu videoscritt.file 2",
+                'set videoscritt.RichTextBox1.SelText "aggiunta"',
+                *armed(place, self.action, ["state testomodificato", "state nomedocumento"])]
+
+    def result(self, place):
+        saved = place.file(self.target).read_bytes()
+        return saved if saved != self.other else None
+
+    def check(self, place, output, whole):
+        name = place.file(self.target if whole else "r.rtf")
+        require(f"testomodificato = {0 if whole else 1}" in output, "the mark of a change is wrong")
+        require(f'nomedocumento = "{name}"' in output, "the name is wrong")
+        require(place.file("r.rtf").read_bytes() == self.own, "the report's own file changed")
+        require(whole or place.file(self.target).read_bytes() == self.other, "the other report is lost")
+        require(sorted(os.listdir(place.watched)) == [self.target, "r.rtf"], "a part of a report is left")
+
+
 def full_disk_for_settings(base):
     """Settings that can never be written are told, and nothing else is kept from working."""
     place = Place(base)
@@ -358,7 +389,7 @@ def full_disk_for_settings(base):
 
 
 OPERATIONS = (Save, SaveAs, SaveAsNew, Open, Import, lambda: Export("DXF", "mnudxf", "u.dxf"),
-              lambda: Export("BMP", "mnucreabmp", "u.bmp"), Print, SaveReport, OpenReport, Settings)
+              lambda: Export("BMP", "mnucreabmp", "u.bmp"), Print, SaveReport, SaveReportAs, OpenReport, Settings)
 
 
 def play(base, operation, fault=None):
@@ -445,6 +476,14 @@ def kills_of(base, make, call, do, intact):
     return count
 
 
+def other_report_is_kept(place, operation, where):
+    saved = place.file(operation.target).read_bytes()
+    require(saved == operation.other or saved.rstrip(b"\x00\r\n").endswith(b"}") and b"aggiunta" in saved,
+            f"{where}: neither the old report nor the new one")
+    _, output = place.run(operation.lines(place))
+    require("testomodificato = 0" in output and operation.result(place), f"{where}: it cannot be saved again")
+
+
 def report_is_kept(place, operation, where):
     saved = place.file("r.rtf").read_bytes()
     require(saved == operation.old or saved.rstrip(b"\x00\r\n").endswith(b"}") and b"aggiunta" in saved,
@@ -523,11 +562,13 @@ def main():
             faults = [pool.submit(series, base, make, call, str(number) + lasting)
                       for make in OPERATIONS for call, numbers in ERRORS.items() for number in numbers
                       for lasting in (("", "+") if number == errno.ENOSPC else ("",))]
-            faults += [pool.submit(series, base, make, call, do) for make in (Save, Import, Open, Print, SaveReport, OpenReport)
+            faults += [pool.submit(series, base, make, call, do)
+                       for make in (Save, Import, Open, Print, SaveReport, SaveReportAs, OpenReport)
                        for call, do in HARMLESS]
             killed = [pool.submit(kills, base, call, do) for call in KILLS for do in ("before", "after")]
             killed += [pool.submit(kills_of, base, make, call, do, intact)
-                       for make, intact in ((SaveReport, report_is_kept), (Settings, settings_are_kept))
+                       for make, intact in ((SaveReport, report_is_kept), (SaveReportAs, other_report_is_kept),
+                                          (Settings, settings_are_kept))
                        for call in KILLS for do in ("before", "after")]
             around = [pool.submit(job, base) for job in (surroundings, full_disk_for_settings)]
             failed = []

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "random_user/outside.h"
 #include "random_user/random_session.h"
 
 namespace {
@@ -57,6 +58,7 @@ class Folder {
   void make() const {
     remove();
     fs::create_directories(path_ / "cartella");
+    fs::create_directories(path_ / trelvo::fleeting_folder);
     fs::current_path(path_);
     fs::copy_file(TRELVO_SEEDS "/dis/all_classes.DIS", "pronto.DIS");
     fs::copy_file(TRELVO_SEEDS "/txt/all_classes.txt", "testo.txt");
@@ -99,6 +101,7 @@ int main(int argc, char** argv) {
   const auto seconds = [&] { return std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count(); };
   long steps = 0;
   long reopened = 0;
+  std::size_t sheets = 0;
   for (; steps < options.steps && seconds() < options.seconds; ++options.seed) {
     folder.make();
     std::ofstream trail;
@@ -106,6 +109,7 @@ int main(int argc, char** argv) {
     trelvo::Played played = trelvo::play(options.seed, options.session, trail);
     steps += played.steps;
     reopened += played.reopened;
+    sheets += played.sheets.size();
     if (played.broken.empty()) {
       folder.make();
       played.broken = trelvo::differs_by_plain_walks(played);
@@ -115,7 +119,7 @@ int main(int argc, char** argv) {
       return 1;
     }
   }
-  std::cerr << steps << " steps in " << seconds() << " s, " << reopened << " drawings read again; next seed "
-            << options.seed << '\n';
+  std::cerr << steps << " steps in " << seconds() << " s, " << reopened << " files read again, " << sheets
+            << " sheets; next seed " << options.seed << '\n';
   return 0;
 }

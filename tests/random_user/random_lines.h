@@ -40,6 +40,13 @@ class RandomLines {
   void use_files();
   void any_key();
 
+  void go_elsewhere();
+  void any_tool();
+  void look_at_dialog();
+  void print_to_file();
+  void use_fleeting_folder();
+  void keep_report();
+
   std::string number();
   std::string coordinate();
   std::string typed();

@@ -6,8 +6,11 @@
 #include <streambuf>
 
 #include "random_user/invariants.h"
+#include "random_user/outside.h"
 #include "random_user/random_lines.h"
 #include "random_user/report_lines.h"
+#include "random_user/report_reopening.h"
+#include "random_user/sheets.h"
 #include "script/failure.h"
 #include "script/machine.h"
 #include "support/desktop_finto.h"
@@ -16,15 +19,15 @@ namespace trelvo {
 
 namespace {
 
-// A drawing that the user has just saved: it is read into another window and compared.
+// What the user has just saved is read and compared, a drawing in another window.
 class Reopening {
  public:
-  Reopening(const Session& session, Played& played) : session_(session), played_(played) {}
+  Reopening(const Session& session, Played& played) : session_(session), played_(played), report_(session) {}
 
-  // The lines that read the drawing again, if the step saved one under a name of its own.
+  // The lines that read it again, if the step saved something under a name of its own.
   std::deque<std::string> after(const std::deque<std::string>& step) {
     const distipo* doc = session_.bas.attivo();
-    if (doc == nullptr || step.size() < 2 || step.back() != "menu opfile 4") return {};
+    if (doc == nullptr || step.size() < 2 || step.back() != "menu opfile 4") return report_.after(step);
     name_ = doc->Caption;
     // A failed save leaves a mark of a change: there is nothing whole to read.
     const bool own = name_.starts_with("salvato") && step[step.size() - 2] == "file \"" + name_ + "\"";
@@ -33,9 +36,9 @@ class Reopening {
     kept_ = kept_objects(doc->dis);
     return {"file \"" + name_ + "\"", "menu opfile 2"};
   }
-  // What differs between the drawing and the one that was read; the window goes when the user likes.
+  // What differs from what was read; the window goes when the user likes.
   std::string compared() {
-    if (!kept_) return {};
+    if (!kept_) return report_.compared(played_.reopened);
     const std::vector<std::string> before = std::move(*kept_);
     kept_.reset();
     std::error_code ignored;
@@ -58,13 +61,15 @@ class Reopening {
   const distipo* saved_ = nullptr;
   std::string name_;
   std::optional<std::vector<std::string>> kept_;
+  ReportReopening report_;
 };
 
 // The script, made a line at a time while it runs. It ends when something does not hold.
 class UserLines : public std::streambuf {
  public:
-  UserLines(Session& session, RandomLines& user, int steps, Played& played, std::ostream& trail)
+  UserLines(Session& session, const Sheets& sheets, RandomLines& user, int steps, Played& played, std::ostream& trail)
       : user_(user),
+        sheets_(sheets),
         bas_(session.bas),
         trail_(trail),
         session_(session),
@@ -78,6 +83,7 @@ class UserLines : public std::streambuf {
     if (waiting_.empty() && !next()) return traits_type::eof();
     played_.seen.push_back(seen_by_user(bas_));
     played_.lines.push_back(waiting_.front());
+    happen_outside(waiting_.front());
     line_ = waiting_.front() + '\n';
     trail_ << line_ << std::flush;
     waiting_.pop_front();
@@ -91,6 +97,7 @@ class UserLines : public std::streambuf {
     begun_ = true;
     if (played_.broken.empty()) played_.broken = report_.broken(session_);
     if (played_.broken.empty()) played_.broken = reopening_.compared();
+    if (played_.broken.empty() && sheets_.on() != 0) played_.broken = "a sheet is left on";
     if (!played_.broken.empty() || played_.steps >= steps_) return false;
     waiting_ = reopening_.after(step_);
     step_.clear();
@@ -102,6 +109,7 @@ class UserLines : public std::streambuf {
   }
 
   RandomLines& user_;
+  const Sheets& sheets_;
   const trelvobas& bas_;
   std::ostream& trail_;
   const Session& session_;
@@ -126,6 +134,7 @@ class SameLines : public std::streambuf {
   int_type underflow() override {
     if (next_ == lines_.size()) return traits_type::eof();
     played_.seen.push_back(seen_by_user(bas_));
+    happen_outside(lines_[next_]);
     line_ = lines_[next_++] + '\n';
     setg(line_.data(), line_.data(), line_.data() + line_.size());
     return traits_type::to_int_type(*gptr());
@@ -143,7 +152,8 @@ class SameLines : public std::streambuf {
 struct Driven {
   std::ostringstream printed;
   FakeFonts fonts;
-  Machine machine{printed, ".", fonts};
+  Sheets sheets{fonts};
+  Machine machine{printed, ".", fonts, sheets.maker()};
 
   void run(std::streambuf& lines, Played& played) {
     std::istream script(&lines);
@@ -154,6 +164,7 @@ struct Driven {
     }
     machine.output.flush();
     played.output = printed.str();
+    played.sheets = sheets.finished();
   }
 };
 
@@ -168,7 +179,7 @@ Played play(std::uint64_t seed, int steps, std::ostream& trail) {
     user.shown(form.name);
     machine.runner.use_dialog(form);
   };
-  UserLines lines(machine.session, user, steps, played, trail);
+  UserLines lines(machine.session, driven.sheets, user, steps, played, trail);
   driven.run(lines, played);
   return played;
 }
@@ -188,7 +199,8 @@ std::string differs_by_plain_walks(const Played& played) {
       return "a plain walk shows something else before line " + std::to_string(i + 1) + ", " + played.lines[i];
     }
   }
-  return plain.output == played.output ? std::string() : "a plain walk prints something else";
+  if (plain.sheets != played.sheets) return "a plain walk prints another sheet";
+  return plain.output == played.output ? std::string() : "a plain walk tells something else";
 }
 
 }  // namespace trelvo

@@ -13,7 +13,8 @@ struct Played {
   std::string output;
   std::string broken;  // what did not hold, empty for nothing
   int steps = 0;
-  int reopened = 0;                 // drawings saved, read again and found equal
+  int reopened = 0;                 // drawings and reports saved, read again and found equal
+  std::vector<std::size_t> sheets;  // what went to paper
   std::vector<std::uint64_t> seen;  // before each line: what a user sees, and all objects, as a number
 };
 
