@@ -199,7 +199,10 @@ bool DocumentWindow::eventFilter(QObject* watched, QEvent* event) {
     lay_strips();
   }
   if (watched == canvas_ && event->type() == QEvent::KeyPress) {
-    key(*static_cast<QKeyEvent*>(event));
+    auto& pressed = *static_cast<QKeyEvent*>(event);
+    // The tab key means nothing to a drawing: it goes on to the command line.
+    if (pressed.key() == Qt::Key_Tab || pressed.key() == Qt::Key_Backtab) return false;
+    key(pressed);
     return true;
   }
   const bool over_strip = watched == bottom_ || watched == right_ || watched == horizontal_ || watched == vertical_;
