@@ -109,7 +109,7 @@ void lettorertf::byte(int valore) {
   }
   constexpr int primo_segno = 0x20;
   const auto byte = static_cast<char>(valore);
-  if (valore >= primo_segno || byte == '\t') emetti(da_utf8(from_code_page(std::string_view(&byte, 1))));
+  if (valore >= primo_segno || byte == '\t') emetti(ripulito(da_utf8(from_code_page(std::string_view(&byte, 1)))));
 }
 
 void lettorertf::parola(const segnortf& segno) {

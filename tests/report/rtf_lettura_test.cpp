@@ -42,6 +42,7 @@ TEST(LeggiRtf, text) {
       {"\\'e0\\'80\\'93x", "à€“x"},
       {"\xE0\x80", "à€"},
       {"\\'7", "7"},
+      {"a\\'7fb\x7F", "a\uFFFDb\uFFFD"},
       {"\\'zz", "zz"},
       {"a\\~b\\_c\\-d", "a\u00A0b\u2011c\u00ADd"},
       {"\\lquote a\\rquote\\ldblquote b\\rdblquote\\emdash\\endash\\bullet", "‘a’“b”—–•"},
