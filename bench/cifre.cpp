@@ -231,8 +231,7 @@ double memoria(int numero) {
 
 template <class Classe>
 std::size_t memoria_luoghi(const disegno& dis) {
-  const indici& i = collezione_di<Classe>(dis).luoghi();
-  return i.vicini.memoria() + i.lontani.memoria();
+  return collezione_di<Classe>(dis).luoghi().memoria();
 }
 
 // ---- the table

@@ -40,14 +40,17 @@ void detinters_cerchio_segmento(double Xc, double Yc, double R, double x1, doubl
     IY2 = y1;
   }
   if (x1 != x2 && y1 != y2) {
+    // Counted from the first end: so the digits of the point are not lost to the slope of a steep line.
     const double m = (y2 - y1) / (x2 - x1);
-    const double m2 = m * m;
-    const double b = -2 * Xc + 2 * y1 * m - 2 * x1 * m2 - 2 * Yc * m;
-    const double c =
-        Xc * Xc + Yc * Yc + y1 * y1 + m2 * (x1 * x1) - 2 * y1 * m * x1 - 2 * Yc * y1 + 2 * Yc * m * x1 - R * R;
-    risolvi2grado(1 + m2, b, c, d, IX1, IX2);
-    IY1 = y1 + m * IX1 - m * x1;
-    IY2 = y1 + m * IX2 - m * x1;
+    const double xc = Xc - x1;
+    const double yc = Yc - y1;
+    double u1 = 0;
+    double u2 = 0;
+    risolvi2grado(1 + m * m, -2 * (xc + m * yc), xc * xc + yc * yc - R * R, d, u1, u2);
+    IX1 = x1 + u1;
+    IX2 = x1 + u2;
+    IY1 = y1 + m * u1;
+    IY2 = y1 + m * u2;
   }
   if (d >= 0) {
     if (detPinsegmento(IX1, IY1, x1, y1, x2, y2)) flag1 = 1;
@@ -56,23 +59,24 @@ void detinters_cerchio_segmento(double Xc, double Yc, double R, double x1, doubl
 }
 
 bool cerchi_secanti(double Xa, double Ya, double Ra, double Xb, double Yb, double Rb, double& IX1, double& IX2) {
-  if ((Xa - Xb) * (Xa - Xb) + (Ya - Yb) * (Ya - Yb) <= Rb * Rb && Ra < Rb) return false;
-  const double A = 2 * (Xb - Xa);
-  const double B = 2 * (Yb - Ya);
-  const double C = Xa * Xa - Xb * Xb + Ya * Ya - Yb * Yb + Rb * Rb - Ra * Ra;
-  double d = 0;
-  if (B != 0) {
-    const double p = -C / B;
-    const double q = -A / B;
-    risolvi2grado(1 + q * q, 2 * p * q - 2 * Xa - 2 * Ya * q, Xa * Xa + p * p + Ya * Ya - 2 * Ya * p - Ra * Ra, d, IX1,
-                  IX2);
-  } else if (A != 0) {
-    const double p = -C / A;
-    const double q = -B / A;
-    risolvi2grado(1 + q * q, 2 * p * q - 2 * Ya - 2 * Xa * q, Xa * Xa + p * p + Ya * Ya - 2 * Xa * p - Ra * Ra, d, IX1,
-                  IX2);
-  }
-  return d >= 0;
+  const double dx = Xb - Xa;
+  const double dy = Yb - Ya;
+  const double D2 = dx * dx + dy * dy;
+  if (D2 <= Rb * Rb && Ra < Rb) return false;
+  if (D2 == 0) return true;
+  // Sixteen times the square of the area of the triangle of the centres and a point: circles whose centres are nearly
+  // level lose no digits in it.
+  const double d = ((Ra + Rb) * (Ra + Rb) - D2) * (D2 - (Ra - Rb) * (Ra - Rb));
+  if (!(d >= 0)) return false;
+  const double lungo = (D2 + Ra * Ra - Rb * Rb) / 2;
+  const double largo = std::sqrt(d) / 2;
+  // The larger one first.
+  const double origine = dy != 0 ? Xa : Ya;
+  const double mezzo = (dy != 0 ? dx : dy) * lungo;
+  const double scarto = std::fabs(dy != 0 ? dy : dx) * largo;
+  IX1 = origine + (mezzo + scarto) / D2;
+  IX2 = origine + (mezzo - scarto) / D2;
+  return true;
 }
 
 void detinters_cerchio_cerchio(double Xa, double Ya, double Ra, double Xb, double Yb, double Rb, std::int16_t& flag,

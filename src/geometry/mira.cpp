@@ -13,15 +13,12 @@ namespace trelvo {
 
 namespace {
 
-// True only where the segment cannot be found to meet the circle, rounding included: on a steep line that error grows
-// with the slope.
+// True only where the segment cannot be found to meet the circle, rounding included.
 bool lontano(double X, double Y, double R, double xi, double yi, double xf, double yf) {
   const double g = distacco(X, Y, std::min(xi, xf), std::min(yi, yf), std::max(xi, xf), std::max(yi, yf));
   if (!(g > 0)) return false;
-  const double dx2 = xi == xf || yi == yf ? 1 : (xf - xi) * (xf - xi);
-  const double d2 = xi == xf || yi == yf ? 1 : dx2 + (yf - yi) * (yf - yi);
   const double grandezza = X * X + Y * Y + R * R + g * g + xi * xi + yi * yi + xf * xf + yf * yf;
-  return (g * g - R * R) * dx2 > margine_relativo * d2 * grandezza + margine_minimo;
+  return g * g - R * R > margine_relativo * grandezza + margine_minimo;
 }
 
 }  // namespace

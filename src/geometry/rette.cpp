@@ -6,24 +6,25 @@ namespace trelvo {
 void detintersrette(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4, double& X,
                     double& Y, std::int16_t& flag) {
   flag = 1;
+  // Differences come before products: so the digits of the point are not lost to the slope of a nearly level line.
   if (y1 == y2) {
     if (y3 != y4) {
       const double m2 = (x4 - x3) / (y4 - y3);
       Y = y1;
-      X = x3 + m2 * y1 - m2 * y3;
+      X = x3 + m2 * (y1 - y3);
     } else {
       flag = 0;
     }
   } else if (y3 == y4) {
     const double m1 = (x2 - x1) / (y2 - y1);
     Y = y3;
-    X = x1 + m1 * y3 - m1 * y1;
+    X = x1 + m1 * (y3 - y1);
   } else {
     const double m1 = (x2 - x1) / (y2 - y1);
     const double m2 = (x4 - x3) / (y4 - y3);
     if (m1 != m2) {
-      Y = ((x3 - x1) - m2 * y3 + m1 * y1) / (m1 - m2);
-      X = x1 + m1 * Y - m1 * y1;
+      Y = y3 + ((x3 - x1) + m1 * (y1 - y3)) / (m1 - m2);
+      X = x1 + m1 * (Y - y1);
     } else {
       flag = 0;
     }

@@ -125,7 +125,7 @@ class collezione {
 
   // The places of the objects. Whoever asks brings them up to date first: azione(posizione, oggetto) for each object
   // that may have changed since the last time.
-  indici& luoghi() const { return luoghi_; }
+  indice& luoghi() const { return luoghi_; }
   std::size_t da_collocare() const { return da_collocare_.qualcuna() ? da_collocare_.quante() : 0; }
   template <class Azione>
   void colloca(Azione&& azione) const {
@@ -172,7 +172,7 @@ class collezione {
   std::uint64_t scritture_ = 0;
   mutable modifiche da_collocare_;
   mutable modifiche da_usare_;
-  mutable indici luoghi_;
+  mutable indice luoghi_;
   mutable std::vector<posizione_t> usati_;
 };
 

@@ -75,11 +75,4 @@ class indice {
   std::vector<voce> nuovi_;  // of the present round
 };
 
-// Two indexes a collection: `vicini` tells where windows meet an object and picks usually do, `lontani` the rest of
-// where a pick may meet it.
-struct indici {
-  indice vicini;
-  indice lontani;
-};
-
 }  // namespace trelvo

@@ -18,23 +18,15 @@ bool collocabile(const distipo& doc) {
   return doc.dis.con_luoghi && (!std::is_same_v<Classe, testo> || scala_comune(doc.vista.rapscala));
 }
 
-// Positions in order, each once; all objects if they are too many.
-class raccolta {
- public:
-  explicit raccolta(std::size_t numero) : massimo_(pochi + numero / parte_massima) {}
-  void cerca(const indice& i, const riquadro& zona) { c_.tutti = c_.tutti || !i.cerca(zona, massimo_, c_.posizioni); }
-  candidati esito() {
-    std::vector<posizione_t>& p = c_.posizioni;
-    if (c_.tutti) p.clear();
-    std::sort(p.begin(), p.end());
-    p.erase(std::unique(p.begin(), p.end()), p.end());
-    return std::move(c_);
-  }
-
- private:
-  std::size_t massimo_;
-  candidati c_;
-};
+// Positions in order; all objects if they are too many.
+template <class Classe>
+candidati in_zona(const collezione<Classe>& coll, const riquadro& zona) {
+  candidati c;
+  c.tutti = !coll.luoghi().cerca(zona, pochi + coll.numero() / parte_massima, c.posizioni);
+  if (c.tutti) c.posizioni.clear();
+  std::sort(c.posizioni.begin(), c.posizioni.end());
+  return c;
+}
 
 candidati tutti() { return {true, {}}; }
 
@@ -57,15 +49,13 @@ void ricerca<Classe>::colloca(distipo& doc) {
   const std::size_t quanti = coll.da_collocare();
   if (quanti == 0) return;
   const SurfaceFont carattere = doc.surface.font;
-  indici& luoghi = coll.luoghi();
-  luoghi.vicini.attendi(quanti);
+  indice& luoghi = coll.luoghi();
+  luoghi.attendi(quanti);
   coll.colloca([&](posizione_t posizione, const Classe& o) {
-    const portata p = vivo(o) ? portata_di(doc, o) : portata{};
-    luoghi.vicini.aggiorna(posizione, vivo(o) ? &p.vicino : nullptr);
-    luoghi.lontani.aggiorna(posizione, p.lontano ? &*p.lontano : nullptr);
+    const riquadro dove = vivo(o) ? portata_di(doc, o) : riquadro::ovunque();
+    luoghi.aggiorna(posizione, vivo(o) ? &dove : nullptr);
   });
-  luoghi.vicini.concludi([&](posizione_t posizione) { return portata_di(doc, coll(posizione)).vicino; });
-  luoghi.lontani.concludi([&](posizione_t posizione) { return *portata_di(doc, coll(posizione)).lontano; });
+  luoghi.concludi([&](posizione_t posizione) { return portata_di(doc, coll(posizione)); });
   doc.surface.font = carattere;
 }
 
@@ -73,21 +63,14 @@ template <class Classe>
 candidati ricerca<Classe>::in(distipo& doc, const finestra& f) {
   if (!a_portata(f) || !collocabile<Classe>(doc)) return tutti();
   colloca(doc);
-  const collezione<Classe>& coll = collezione_di<Classe>(std::as_const(doc.dis));
-  raccolta r(coll.numero());
-  r.cerca(coll.luoghi().vicini, riquadro::intorno(f.x1, f.y1, f.x2, f.y2));
-  return r.esito();
+  return in_zona(collezione_di<Classe>(std::as_const(doc.dis)), riquadro::intorno(f.x1, f.y1, f.x2, f.y2));
 }
 
 template <class Classe>
 candidati ricerca<Classe>::in(distipo& doc, const mira& m) {
   if (!a_portata(m) || !collocabile<Classe>(doc)) return tutti();
   colloca(doc);
-  const collezione<Classe>& coll = collezione_di<Classe>(std::as_const(doc.dis));
-  raccolta r(coll.numero());
-  r.cerca(coll.luoghi().vicini, zona_di(m));
-  r.cerca(coll.luoghi().lontani, riga_di(m));
-  return r.esito();
+  return in_zona(collezione_di<Classe>(std::as_const(doc.dis)), zona_di(m));
 }
 
 template struct ricerca<superficie>;

@@ -7,6 +7,7 @@
 
 #include "casi.h"
 #include "geometry/cerchi.h"
+#include "geometry/intersfin.h"
 #include "platform/runtime_error.h"
 
 namespace trelvo {
@@ -75,6 +76,32 @@ TEST(Mira, TextByItsBoxAndMiddleLine) {
   EXPECT_EQ(lato, 3U);
   EXPECT_FALSE(testo_in_mira(10, 2.5, .5, r));
   EXPECT_FALSE(testo_in_mira(10, 5, 50, r));
+}
+
+// Turning leaves edges a last digit away from upright or level.
+TEST(Mira, TurnedOutlinesAreFoundWhereTheyAre) {
+  Casi casi(5);
+  for (int i = 0; i < 4000; ++i) {
+    const double angolo = (1 + casi.intero(3)) * std::acos(0.0);
+    const double c = std::cos(angolo);
+    const double s = std::sin(angolo);
+    const double px = 100 * casi.reale(), py = 100 * casi.reale();
+    const double lungo = 1 + 20 * casi.reale();
+    const vertice a{px, py};
+    const vertice b = i % 2 == 0 ? vertice{px + lungo * c, py + lungo * s} : vertice{px - lungo * s, py + lungo * c};
+    const double t = 0.1 + 0.8 * casi.reale();
+    const double mx = a.x + (b.x - a.x) * t, my = a.y + (b.y - a.y) * t;
+    ASSERT_TRUE(segmento_in_mira(mx + 0.02, my - 0.02, 0.05, a.x, a.y, b.x, b.y)) << i;
+    ASSERT_FALSE(segmento_in_mira(mx + 0.06, my - 0.06, 0.05, a.x, a.y, b.x, b.y)) << i;
+    ASSERT_TRUE(incrocia_lati({mx - 0.03, my - 0.03, mx + 0.05, my + 0.05}, a.x, a.y, b.x, b.y)) << i;
+    ASSERT_FALSE(incrocia_lati({mx + 0.01, my + 0.01, mx + 0.05, my + 0.05}, a.x, a.y, b.x, b.y)) << i;
+  }
+}
+
+TEST(Mira, CircleNearlyLevelWithThePick) {
+  const double sopra = std::nextafter(10.0, 11.0);
+  EXPECT_TRUE(cerchio_in_mira(105.2, sopra, .5, 100, 10, 5));
+  for (const double X : {80.0, 101.0, 106.0, 300.0}) EXPECT_FALSE(cerchio_in_mira(X, sopra, .5, 100, 10, 5)) << X;
 }
 
 TEST(Mira, CircleNeedsNoCrossingPoint) {
