@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
-#include <filesystem>
+#include <exception>
 #include <iostream>
 
 #include "app/app.h"
@@ -38,7 +38,7 @@ int run_script(int argc, char** argv, const trelvo::CommandLine& line) {
 int run_frame(trelvo::DesktopQt& desktop, trelvo::trelvobas& bas, const std::string& folder, const std::string& file) {
   trelvo::SafetyCopies copies(desktop, folder);
   desktop.run([&] { trelvo::Main(bas, file); });
-  copies.offer_lost();
+  desktop.run([&] { copies.offer_lost(); });
   const int status = QApplication::exec();
   desktop.hide_frame();
   return status;
@@ -88,7 +88,7 @@ int main(int argc, char** argv) {
   } catch (const trelvo::CommandLineError& error) {
     std::cerr << error.what() << "\n";
     return status_bad_command_line;
-  } catch (const std::filesystem::filesystem_error& error) {
+  } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
     return 1;
   }

@@ -26,6 +26,18 @@ distipo& crea_finestra(trelvobas& bas) {
   return doc;
 }
 
+// It counts only if there is memory for it.
+distipo& finestra_contata(trelvobas& bas) {
+  try {
+    return crea_finestra(bas);
+  } catch (const std::bad_alloc&) {
+    if (bas.finestredocumenti.size() > static_cast<std::size_t>(bas.progrdocumento)) bas.finestredocumenti.pop_back();
+    --bas.progrdocumento;
+    --bas.ndocumenti;
+    throw;
+  }
+}
+
 void mostra_finestra(distipo& doc) {
   const Desktop::ClientSize area = doc.bas.desktop.create_window(doc);
   doc.surface.resize(area.width, area.height);
@@ -41,7 +53,7 @@ void nuovodisegno(trelvobas& bas) {
   const PointerGuard attesa(bas.desktop, pointer_hourglass);
   ++bas.progrdocumento;
   ++bas.ndocumenti;
-  distipo& doc = crea_finestra(bas);
+  distipo& doc = finestra_contata(bas);
   mostra_finestra(doc);
   doc.Caption = titolo_senza_nome(bas.progrdocumento);
   memxin(doc);

@@ -49,7 +49,8 @@ void riapri_perduto(trelvobas& bas, copieaperte& copie, const disegnoperduto& pe
   leggifile(doc, sorgente);
   if (proprio_nome && !perduto.copia.empty()) doc.impronta = perduto.impronta;
   copie.aggiorna(bas);
-  copieaperte::dimentica(perduto);
+  // What is left of a full disk may not take another copy.
+  if (copie.al_sicuro(doc)) copieaperte::dimentica(perduto);
 }
 
 }  // namespace trelvo

@@ -11,8 +11,8 @@ namespace trelvo {
 // Those that the user does not see yet.
 std::vector<disegnoperduto> perduti_da_offrire(const trelvobas& bas, const copieaperte& copie);
 
-// Opens it, changed, under its own name unless a changed document has that; it is none of the lost ones then. Errors
-// are those of leggifile.
+// Opens it, changed, under its own name unless a changed document has that. It is none of the lost ones when it has a
+// new copy. Errors are those of leggifile.
 void riapri_perduto(trelvobas& bas, copieaperte& copie, const disegnoperduto& perduto);
 
 }  // namespace trelvo

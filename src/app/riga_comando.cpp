@@ -1,8 +1,11 @@
 #include "app/riga_comando.h"
 
+#include <cmath>
+
 #include "commands/motore.h"
 #include "commands/prompt.h"
 #include "platform/numbers.h"
+#include "platform/runtime_error.h"
 #include "view/mappa.h"
 
 namespace trelvo {
@@ -28,6 +31,8 @@ void clic_scritto(distipo& doc, double x, double y) {
 
 void invio_Text1(distipo& doc) {
   frmMainForm& f = doc.bas.frmMain;
+  // Written back it would be no number any more.
+  if (!std::isfinite(fx1(doc.bas)) || !std::isfinite(fy1(doc.bas))) throw RuntimeError(error_overflow);
   f.Text1.Text = coppia(fx1(doc.bas), fy1(doc.bas));
   if (f.Label1.Caption.get() == "Comando: ") {
     scrivilabel1(doc);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -46,17 +47,30 @@ std::string nota_di(const distipo& doc) { return doc.impronta + '\n' + doc.Capti
 
 bool da_copiare(const distipo& doc) { return doc.dis.revisione() != doc.salvata; }
 
+// Whole or not at all.
 bool scrivi(const fs::path& file, const std::string& testo) {
-  std::ofstream flusso(file, std::ios::binary);
+  const fs::path nuova = fs::path(file).replace_extension(estensione_incompleta);
+  std::ofstream flusso(nuova, std::ios::binary);
   flusso << testo << std::flush;
-  return flusso.good();
+  flusso.close();
+  std::error_code errore;
+  if (flusso.good()) fs::rename(nuova, file, errore);
+  if (flusso.good() && !errore) return true;
+  fs::remove(nuova, errore);
+  return false;
 }
 
+// A copy whose note was lost is that of a drawing without a name.
 disegnoperduto leggi_nota(const fs::path& nota) {
-  std::ifstream flusso(nota, std::ios::binary);
   disegnoperduto perduto;
-  std::getline(flusso, perduto.impronta);
-  perduto.nome.assign(std::istreambuf_iterator<char>(flusso), {});
+  std::error_code errore;
+  if (fs::is_regular_file(nota, errore)) {
+    std::ifstream flusso(nota, std::ios::binary);
+    std::getline(flusso, perduto.impronta);
+    std::getline(flusso, perduto.nome, '\0');
+    if (perduto.nome.empty()) perduto.impronta.clear();
+  }
+  if (perduto.nome.empty()) perduto.nome = titolo_senza_nome(1);
   const fs::path copia = fs::path(nota).replace_extension(estensione_copia);
   if (leggibile(copia.string())) perduto.copia = copia.string();
   perduto.nota = nota;
@@ -94,6 +108,13 @@ bool copieaperte::prepara() {
 
 fs::path copieaperte::file(int numero, const char* estensione) const {
   return propria_ / (std::to_string(numero) + estensione);
+}
+
+bool copieaperte::al_sicuro(const distipo& doc) const {
+  if (!da_copiare(doc)) return true;
+  const auto trovata = voci_.find(doc.numero);
+  return trovata != voci_.end() && trovata->second.doc == &doc && trovata->second.copiata == doc.dis.revisione() &&
+         !trovata->second.nota.empty();
 }
 
 void copieaperte::togli(int numero) {
@@ -153,14 +174,26 @@ void copieaperte::aggiorna(const trelvobas& bas) {
 
 namespace {
 
+// There is nothing beside a name that no file can have.
+bool accanto(const std::string& nome) {
+  try {
+    return !copia_recuperabile(nome).empty();
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
 void raccogli(const fs::path& cartella, std::vector<disegnoperduto>& trovati) {
-  std::vector<fs::path> note;
+  std::set<fs::path> note;
   for (const auto& file : fs::directory_iterator(cartella)) {
-    if (file.path().extension() == estensione_nota) note.push_back(file.path());
+    const fs::path estensione = file.path().extension();
+    if (estensione == estensione_nota || estensione == estensione_copia) {
+      note.insert(fs::path(file.path()).replace_extension(estensione_nota));
+    }
   }
   for (const fs::path& nota : note) {
     disegnoperduto perduto = leggi_nota(nota);
-    if (!perduto.copia.empty() || !copia_recuperabile(perduto.nome).empty()) {
+    if (!perduto.copia.empty() || accanto(perduto.nome)) {
       trovati.push_back(std::move(perduto));
     } else {
       copieaperte::dimentica(perduto);
@@ -197,8 +230,9 @@ std::vector<disegnoperduto> copieaperte::perduti() const {
 
 void copieaperte::dimentica(const disegnoperduto& perduto) {
   std::error_code ignorato;
-  if (!perduto.copia.empty()) fs::remove(perduto.copia, ignorato);
-  fs::remove(perduto.nota, ignorato);
+  for (const char* estensione : {estensione_copia, estensione_nota, estensione_incompleta}) {
+    fs::remove(fs::path(perduto.nota).replace_extension(estensione), ignorato);
+  }
   fs::remove(perduto.nota.parent_path(), ignorato);
   fs::remove(perduto.nota.parent_path().parent_path(), ignorato);
 }

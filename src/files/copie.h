@@ -34,6 +34,8 @@ class copieaperte {
   // Besides, makes a new copy of each drawing that is not on the disk as it stands, and drops those that are not
   // needed.
   void aggiorna(const trelvobas& bas);
+  // Whether the drawing as it stands is on the disk: in its file, or in a copy with its note.
+  bool al_sicuro(const distipo& doc) const;
 
   // What programs left that are gone, in the order of their windows.
   std::vector<disegnoperduto> perduti() const;

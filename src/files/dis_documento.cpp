@@ -62,12 +62,13 @@ bool leggi_testata(distipo& doc, fileaperto& file, errorerimandato& errore) {
     letti = file.leggi(byte);
     decodifica({byte.data(), letti}, testata, errore);
   });
+  const bool intera = !errore.presente() && letti >= lunghezza_testata - lunghezza_slot + sizeof testata.passogriglia;
   prendi_vista(doc, testata);
   prendi_impostazioni(doc,
                       {testata.coloresfondo, testata.colorepuntatore, testata.statostep, testata.passostep,
                        testata.statogriglia, testata.passogriglia},
                       errore);
-  return letti >= lunghezza_testata - lunghezza_slot + sizeof testata.passogriglia;
+  return intera;
 }
 
 // Whether nothing of it was passed over.
@@ -76,10 +77,11 @@ bool leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
   doc.cmd.statotesti = 0;
   letturadis esito;
   esito.nvertici = nvertici_di_scarto(doc);
-  errore.prova([&] { leggi_oggetti([&](std::span<std::byte> dove) { return file.leggi(dove); }, doc.dis, esito); });
+  const bool letto =
+      errore.prova([&] { leggi_oggetti([&](std::span<std::byte> dove) { return file.leggi(dove); }, doc.dis, esito); });
   nvertici_di_scarto(doc) = esito.nvertici;
   if (esito.riconosciuti) doc.cmd.statooggetti = 1;
-  return esito.intero;
+  return letto && esito.intero;
 }
 
 }  // namespace
@@ -124,7 +126,7 @@ void leggifile(distipo& doc, const std::string& sorgente) {
     doc.bas.desktop.MousePointer = pointer_hourglass;
     intero = leggi_disegno(doc, file, errore) && intero;
   }
-  doc.impronta = proprio && intero && !errore.presente() ? letto : std::string();
+  doc.impronta = proprio && intero ? letto : std::string();
   if (proprio) doc.salvata = doc.dis.revisione();
   doc.surface.BackColor = tavolozza(doc.imp.coloresfondo.valore);
   errore.prova([&] { redraw(doc); });

@@ -5,6 +5,7 @@
 #include "files/accesso_file.h"
 #include "files/comandi_file.h"
 #include "files/sostituzione.h"
+#include "platform/whole_file.h"
 
 namespace trelvo {
 
@@ -33,7 +34,9 @@ std::string copia_recuperabile(const std::string& nome) {
   const fs::file_status stato = fs::status(disegno, ignorato);
   if (fs::exists(stato) && !fs::is_regular_file(stato)) return {};
   std::string ultima;
-  for (std::string copia = disegno + segno_copia; fs::is_regular_file(copia, ignorato); copia += segno_copia) {
+  for (std::size_t segni = 1;; ++segni) {
+    const std::string copia = name_beside(disegno, segni);
+    if (!fs::exists(fs::symlink_status(copia, ignorato))) break;
     if (completo(copia) && (ultima.empty() || scritto(copia) > scritto(ultima))) ultima = copia;
   }
   if (ultima.empty() || !leggibile(ultima)) return {};

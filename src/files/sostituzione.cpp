@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "files/errori_file.h"
+#include "platform/whole_file.h"
 
 namespace trelvo {
 
@@ -10,12 +11,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string nome_libero(std::string nome) {
+std::string nome_libero(const std::string& nome) {
   std::error_code ignorato;
+  std::string libero;
+  std::size_t segni = 0;
   do {
-    nome += segno_copia;
-  } while (fs::exists(fs::symlink_status(nome, ignorato)));
-  return nome;
+    libero = name_beside(nome, ++segni);
+  } while (fs::exists(fs::symlink_status(libero, ignorato)));
+  return libero;
 }
 
 }  // namespace
@@ -43,6 +46,8 @@ sostituzione::sostituzione(const std::string& nome, bool vecchio_resta)
   std::error_code ignorato;
   const fs::file_status stato = fs::status(nome_, ignorato);
   if (fs::is_regular_file(stato)) {
+    // What may not be written is not to be replaced either.
+    fileaperto(nome_, fileaperto::modo::scrittura).chiudi();
     // An unfinished file is not meant to last, nor are its rights.
     if (leggibile_per_diritti(stato)) {
       diritti_ = static_cast<unsigned>(stato.permissions());

@@ -12,9 +12,6 @@
 
 namespace trelvo {
 
-// What follows the name of a file that is kept.
-constexpr char segno_copia = '~';
-
 // Where a link leads, also if nothing is there; any other name as it is. Error 52 for a name that no file can have.
 std::string file_vero(const std::string& nome);
 
@@ -23,8 +20,8 @@ bool leggibile_per_diritti(const std::filesystem::file_status& stato);
 
 class sostituzione {
  public:
-  // What stands at `nome` is kept under that name followed by "~", or by more of them if such a file is there.
-  // If this fails nothing has changed. A device is written as it is.
+  // What stands at `nome` is kept under that name followed by "~" (name_beside), or by more of them if such a file is
+  // there. If this fails, or if it may not be written, nothing has changed. A device is written as it is.
   // It goes when the new one is complete, unless it is to stay.
   explicit sostituzione(const std::string& nome, bool vecchio_resta = false);
   sostituzione(const sostituzione&) = delete;

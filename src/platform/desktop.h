@@ -104,6 +104,14 @@ class PointerGuard {
   Desktop& desktop_;
 };
 
+inline void tell_error(Desktop& desktop, int number, const std::string& text) {
+  try {
+    desktop.MousePointer = pointer_default;
+    desktop.runtime_error(number, text);
+  } catch (const std::bad_alloc&) {  // not even for the words
+  }
+}
+
 // Runs one event of the user. What goes wrong in it is told, and the program goes on. False if it failed.
 template <class Action>
 bool run_event(Desktop& desktop, Action&& action) {
@@ -111,11 +119,9 @@ bool run_event(Desktop& desktop, Action&& action) {
     action();
     return true;
   } catch (const RuntimeError& error) {
-    desktop.MousePointer = pointer_default;
-    desktop.runtime_error(error.number(), error.text());
+    tell_error(desktop, error.number(), error.text());
   } catch (const std::bad_alloc&) {
-    desktop.MousePointer = pointer_default;
-    desktop.runtime_error(error_no_memory, RuntimeError(error_no_memory).text());
+    tell_error(desktop, error_no_memory, RuntimeError(error_no_memory).text());
   }
   return false;
 }

@@ -141,6 +141,18 @@ std::string read_whole_file(const std::string& path, std::size_t most) {
   return file.read(most);
 }
 
+std::string name_beside(const std::string& path, std::size_t marks) {
+  constexpr std::size_t longest_name = 255;
+  const std::size_t folder = path.rfind('/') + 1;  // 0 for none
+  std::size_t length = path.size();
+  if (length - folder + marks > longest_name) {
+    length = folder + longest_name - std::min(marks, longest_name);
+    // No letter is cut in two.
+    while (length > folder && (static_cast<unsigned char>(path[length]) & 0xC0U) == 0x80) --length;
+  }
+  return path.substr(0, length) + std::string(marks, '~');
+}
+
 void replace_whole_file(const std::string& path, std::string_view bytes) {
   const std::string name = real_name(path);
   std::error_code ignored;
@@ -153,9 +165,10 @@ void replace_whole_file(const std::string& path, std::string_view bytes) {
       return;
     }
   }
-  Beside beside{name};
+  Beside beside;
+  std::size_t marks = 0;
   do {
-    beside.name += '~';
+    beside.name = name_beside(name, ++marks);
   } while (fs::exists(fs::symlink_status(beside.name, ignored)));
   OpenFile file(beside.name, O_WRONLY | O_CREAT | O_EXCL, 0666);
   std::optional<mode_t> rights;

@@ -10,6 +10,9 @@ namespace trelvo {
 // Error 7 for a file of more than `most` bytes. Neither folders nor devices can be read.
 std::string read_whole_file(const std::string& path, std::size_t most);
 
+// The name of the file in that place with so many "~" behind it. Where a name has to be short enough its end gives way.
+std::string name_beside(const std::string& path, std::size_t marks);
+
 // The bytes become the contents of the file, made if missing, or it stays as it was: they are written beside it and
 // take its name, its rights, and its place behind a link when they are complete on the disk. Until then nobody can read
 // them, so that nobody takes them for whole. A device is written as it is.

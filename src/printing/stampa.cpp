@@ -74,6 +74,7 @@ comando riga_area() {
   c.clic = clic_area;
   c.destro_altrimenti = lascia_area;
   c.anteprima = anteprima_selezione;
+  c.aggancio = [](const distipo&) { return true; };
   c.riprendi = [](distipo& doc) { scrivilabel1(doc); };
   return c;
 }

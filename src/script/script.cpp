@@ -1,5 +1,6 @@
 #include "script/script.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -18,14 +19,18 @@ int esegui_script(std::istream& righe, std::ostream& uscita, std::ostream& error
     errori << failure.what() << '\n';
     return 1;
   }
-  return 0;
+  macchina.output.flush();
+  const bool letto = !righe.bad();
+  if (!letto) errori << "the script cannot be read\n";
+  if (!uscita) errori << "the answers cannot be written\n";
+  return letto && uscita ? 0 : 1;
 }
 
 int esegui_script(const std::string& percorso, const std::string& cartella, FontService& caratteri,
                   const PdfMaker& fogli) {
   if (percorso == "-") return esegui_script(std::cin, std::cout, std::cerr, cartella, caratteri, fogli);
   std::ifstream file(percorso, std::ios::binary);
-  if (!file) {
+  if (!file || std::filesystem::is_directory(percorso)) {
     std::cerr << "cannot open " << percorso << '\n';
     return 2;
   }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "files/dis_documento.h"
 #include "files/sostituzione.h"
 #include "test_program.h"
@@ -89,7 +91,7 @@ TEST(Copie, OfABrokenSaveAreFoundAndForgotten) {
     copies.annota(p.bas);
     EXPECT_TRUE(copieaperte(killed(p)).perduti().empty()) << "nothing to be had";
     EXPECT_TRUE(fs::is_empty(p.folder / "resto"));
-    write_bytes(name + segno_copia, "old");
+    write_bytes(name + '~', "old");
     const copieaperte next(killed(p));
     const std::vector<disegnoperduto> lost = next.perduti();
     ASSERT_EQ(lost.size(), 1U);
@@ -97,9 +99,41 @@ TEST(Copie, OfABrokenSaveAreFoundAndForgotten) {
     EXPECT_EQ(lost[0].copia, "");
     copieaperte::dimentica(lost[0]);
     EXPECT_TRUE(next.perduti().empty());
-    EXPECT_TRUE(fs::exists(name + segno_copia));
+    EXPECT_TRUE(fs::exists(name + '~'));
   }
   EXPECT_TRUE(fs::is_empty(p.folder / "p")) << "the program ended as it should";
+}
+
+// What a kill, a full disk or another program leaves in the place of a note costs neither its copy nor the others.
+TEST(Copie, OddNotesAreLostOnesAtMost) {
+  struct Row {
+    const char* name;
+    std::optional<std::string> note;
+    const char* told;
+  };
+  const Row rows[] = {{"missing", {}, "Disegno _ 1"},
+                      {"empty", "", "Disegno _ 1"},
+                      {"first line only", "print", "Disegno _ 1"},
+                      {"no name", "print\n", "Disegno _ 1"},
+                      {"zero", std::string("\n\0x.DIS", 8), "Disegno _ 1"},
+                      {"whole", "print\na.DIS", "a.DIS"}};
+  for (const Row& row : rows) {
+    CopiedProgram p;
+    const fs::path left = fs::path(std::string(p.folder / "p")) / "recupero" / "1";
+    fs::create_directories(left);
+    write_bytes((left / "1.DIS").string(), "copy");
+    if (row.note) write_bytes((left / "1.nota").string(), *row.note);
+    write_bytes((left / "2.nota").string(), "");
+    write_bytes((left / "3.nota").string(), std::string("\n") + std::string(5000, 'x'));
+    fs::create_directory(left / "4.nota");
+    const copieaperte copies(p.folder / "p");
+    const std::vector<disegnoperduto> lost = copies.perduti();
+    ASSERT_EQ(lost.size(), 1U) << row.name;
+    EXPECT_EQ(lost[0].nome, row.told) << row.name;
+    EXPECT_EQ(lost[0].copia, (left / "1.DIS").string()) << row.name;
+    copieaperte::dimentica(lost[0]);
+    EXPECT_TRUE(copies.perduti().empty()) << row.name;
+  }
 }
 
 TEST(Copie, TwoProgramsKeepApart) {
@@ -122,9 +156,15 @@ TEST(Copie, NoPlaceForThemIsNoFault) {
   CopiedProgram p;
   write_bytes(p.folder / "file", "no folder");
   copieaperte copies(p.folder / "file");
-  p.open(1, "Disegno _ 1").dis.collLinee.aggiungi({});
+  distipo& changed = p.open(1, "Disegno _ 1");
+  EXPECT_TRUE(copies.al_sicuro(changed));
+  changed.dis.collLinee.aggiungi({});
   copies.aggiorna(p.bas);
   EXPECT_TRUE(copies.perduti().empty());
+  EXPECT_FALSE(copies.al_sicuro(changed));
+  copieaperte placed(p.folder / "p");
+  placed.aggiorna(p.bas);
+  EXPECT_TRUE(placed.al_sicuro(changed));
   EXPECT_EQ(read_bytes(p.folder / "file"), "no folder");
 }
 

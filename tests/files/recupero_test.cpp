@@ -53,7 +53,7 @@ TEST(Recupero, LatestCopyOfAnUnfinishedOrOlderDrawing) {
         fs::last_write_time(name + tail, present - std::chrono::seconds(state.age));
         fs::permissions(name + tail, state.rights);
       }
-      tail += segno_copia;
+      tail += '~';
     }
     EXPECT_EQ(copia_recuperabile(name), *c.offered == 0 ? "" : name + c.offered) << number;
   }
@@ -67,6 +67,10 @@ TEST(Recupero, LinkThatLeadsNowhereAndFolder) {
   fs::create_directory(folder / "cartella");
   write_bytes(folder / "cartella~", "vecchio");
   EXPECT_EQ(copia_recuperabile(folder / "cartella"), "");
+  // What is no file at the first name hides no copy at the next one.
+  fs::create_directory(folder / "b.dis~");
+  write_bytes(folder / "b.dis~~", "vecchio");
+  EXPECT_EQ(copia_recuperabile(folder / "b.dis"), folder / "b.dis~~");
 }
 
 TEST(Recupero, ADrawingIsUnreadableUntilItIsComplete) {

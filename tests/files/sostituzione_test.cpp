@@ -1,8 +1,11 @@
 #include "files/sostituzione.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "files/errori_file.h"
+#include "files/recupero.h"
+#include "platform/whole_file.h"
 #include "test_program.h"
 
 namespace trelvo {
@@ -41,6 +44,41 @@ TEST(Sostituzione, BrokenOffKeepsTheOldAside) {
   }
   EXPECT_EQ(read_bytes(name + "~"), "vecchio~");
   EXPECT_EQ(read_bytes(name + "~~"), "vecchio~~");
+}
+
+TEST(Sostituzione, LongestNameCanBeKeptToo) {
+  const TestFolder folder;
+  for (const std::string& name :
+       {folder / std::string(255, 'n'), folder / (std::string(100, 'n') + "à" + std::string(153, 'n'))}) {
+    write_bytes(name, "vecchio");
+    { const sostituzione s(name); }
+    const std::string kept = copia_recuperabile(name);
+    ASSERT_FALSE(kept.empty());
+    EXPECT_EQ(read_bytes(kept), "vecchio");
+  }
+  EXPECT_EQ(name_beside("a/" + std::string(252, 'n') + "àx", 3), "a/" + std::string(252, 'n') + "~~~")
+      << "no half letter";
+}
+
+TEST(Sostituzione, WhatMayNotBeWrittenStays) {
+  constexpr uid_t nobody = 65534;
+  const TestFolder folder;
+  const std::string name = folder / "a.dis";
+  write_bytes(name, "vecchio");
+  fs::permissions(name, fs::perms{0444});
+  fs::permissions(fs::path(name).parent_path(), fs::perms{0777});
+  const bool administrator = geteuid() == 0;
+  ASSERT_EQ(administrator ? seteuid(nobody) : 0, 0);
+  int error = 0;
+  try {
+    const sostituzione s(name);
+  } catch (const RuntimeError& e) {
+    error = e.number();
+  }
+  ASSERT_EQ(administrator ? seteuid(0) : 0, 0);
+  EXPECT_EQ(error, error_permission);
+  EXPECT_EQ(read_bytes(name), "vecchio");
+  EXPECT_FALSE(fs::exists(name + "~"));
 }
 
 TEST(Sostituzione, LinkStaysALink) {

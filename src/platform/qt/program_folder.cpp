@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/qt/command_line.h"
+
 namespace trelvo {
 
 namespace {
@@ -28,17 +30,21 @@ std::string variable(const char* name) {
 
 std::string choose_folder(const std::string& wished, const std::string& executable, const std::string& config_home,
                           const std::string& home) {
-  fs::path folder;
+  std::error_code error;
   if (!wished.empty()) {
-    folder = fs::absolute(wished);
-  } else if (!installed(executable) && can_hold_settings(executable)) {
-    return executable;
-  } else {
-    // A relative configuration folder counts as none.
-    const bool configured = !config_home.empty() && fs::path(config_home).is_absolute();
-    folder = (configured ? fs::path(config_home) : fs::path(home) / ".config") / "trelvo";
+    const fs::path folder = fs::absolute(wished);
+    fs::create_directories(folder, error);
+    if (!fs::is_directory(folder, error)) throw CommandLineError(wished + " is no folder, and none can be made there");
+    return folder.string();
   }
-  fs::create_directories(folder);
+  if (!installed(executable) && can_hold_settings(executable)) {
+    return executable;
+  }
+  // A relative configuration folder counts as none.
+  const bool configured = !config_home.empty() && fs::path(config_home).is_absolute();
+  const fs::path folder = (configured ? fs::path(config_home) : fs::path(home) / ".config") / "trelvo";
+  // Where there is no place for it the settings are what cannot be written, and that is told.
+  fs::create_directories(folder, error);
   return folder.string();
 }
 

@@ -6,7 +6,7 @@ namespace trelvo {
 
 // The program's folder: `wished` if it names one; that of the executable if the settings can be written there and the
 // program is not installed for all users; otherwise the user's own under the desktop's configuration folder. Made when
-// missing; std::filesystem::filesystem_error if that fails.
+// missing; CommandLineError if a wished one cannot be had.
 std::string program_folder(const std::string& wished);
 
 // The same with the executable's folder and the environment given. `config_home` and `home` may be empty.

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "platform/qt/command_line.h"
+
 namespace trelvo {
 namespace {
 
@@ -49,7 +51,10 @@ TEST_F(ProgramFolder, InstalledForAllUsers) {
 
 TEST_F(ProgramFolder, BarredByAFile) {
   std::ofstream(in("file")) << "x";
-  EXPECT_THROW(choose_folder(in("file/sub"), "", "", ""), fs::filesystem_error);
+  EXPECT_THROW(choose_folder(in("file/sub"), "", "", ""), CommandLineError);
+  EXPECT_THROW(choose_folder(in("file"), "", "", ""), CommandLineError);
+  // A user without a place for settings still has a program.
+  EXPECT_EQ(choose_folder("", in("none"), in("file"), ""), in("file/trelvo"));
 }
 
 }  // namespace
