@@ -74,6 +74,16 @@ void gestfile_Click(trelvobas& bas, int Index) {
   if (Index == 2) apri(bas);
 }
 
+namespace {
+
+// Cleared also when nothing was saved: closing asks nothing then.
+void togli_segno(distipo& doc) {
+  doc.segno_tolto = (doc.segno_tolto || doc.cmd.modificato == 1) && doc.dis.revisione() != doc.salvata;
+  doc.cmd.modificato = 0;
+}
+
+}  // namespace
+
 void opfile_Click(distipo& doc, int Index) {
   trelvobas& bas = doc.bas;
   const PointerGuard attesa(bas.desktop, pointer_hourglass);
@@ -87,11 +97,11 @@ void opfile_Click(distipo& doc, int Index) {
       break;
     case 3:
       salva(bas, "Salva");
-      doc.cmd.modificato = 0;
+      togli_segno(doc);
       break;
     case 4:
       salva(bas, "SalvaConNome");
-      doc.cmd.modificato = 0;
+      togli_segno(doc);
       break;
     case 5:
       chiudi(doc);

@@ -80,7 +80,7 @@ disegnoperduto leggi_nota(const fs::path& nota) {
 }  // namespace
 
 copieaperte::~copieaperte() {
-  while (!voci_.empty()) togli(voci_.begin()->first);
+  while (!voci_.empty()) chiuso(voci_.begin()->first);
   if (descrittore_ < 0) return;
   std::error_code ignorato;
   fs::remove(propria_, ignorato);
@@ -125,18 +125,29 @@ void copieaperte::togli(int numero) {
   voci_.erase(numero);
 }
 
+void copieaperte::chiuso(int numero) {
+  if (voci_[numero].resta) {
+    voci_.erase(numero);
+  } else {
+    togli(numero);
+  }
+}
+
 void copieaperte::annota(const trelvobas& bas) {
   std::vector<int> chiusi;
   for (const auto& [numero, v] : voci_) {
     const auto posto = static_cast<std::size_t>(numero);
     if (posto >= bas.finestredocumenti.size() || bas.finestredocumenti[posto].get() != v.doc) chiusi.push_back(numero);
   }
-  for (const int numero : chiusi) togli(numero);
+  for (const int numero : chiusi) chiuso(numero);
   for (const auto& finestra : bas.finestredocumenti) {
+    const bool resta = finestra && finestra->segno_tolto && finestra->cmd.modificato != 1 && da_copiare(*finestra);
+    if (resta) ricopia(*finestra);
     // A drawing that never had a file is worth a note once it has a copy.
     if (!finestra || (senza_nome(finestra->Caption) && voci_.count(finestra->numero) == 0)) continue;
     voce& v = voci_[finestra->numero];
     v.doc = finestra.get();
+    v.resta = resta;
     std::string nota = nota_di(*finestra);
     if (v.nota != nota && prepara() && scrivi(file(finestra->numero, estensione_nota), nota)) v.nota = std::move(nota);
   }
@@ -157,16 +168,21 @@ void copieaperte::copia(const distipo& doc, voce& v) {
   fs::remove(nuova, ignorato);
 }
 
+void copieaperte::ricopia(const distipo& doc) {
+  const auto trovata = voci_.find(doc.numero);
+  const bool nota = trovata != voci_.end() && trovata->second.doc == &doc;
+  if (nota && trovata->second.copiata == doc.dis.revisione()) return;
+  if (!nota) togli(doc.numero);
+  if (prepara()) copia(doc, voci_[doc.numero]);
+}
+
 void copieaperte::aggiorna(const trelvobas& bas) {
   for (const auto& finestra : bas.finestredocumenti) {
     if (!finestra) continue;
-    const auto trovata = voci_.find(finestra->numero);
-    const bool nota = trovata != voci_.end() && trovata->second.doc == finestra.get();
-    if (!da_copiare(*finestra)) {
-      if (nota) togli(finestra->numero);
-    } else if (!nota || trovata->second.copiata != finestra->dis.revisione()) {
-      if (!nota) togli(finestra->numero);
-      if (prepara()) copia(*finestra, voci_[finestra->numero]);
+    if (da_copiare(*finestra)) {
+      ricopia(*finestra);
+    } else if (const auto v = voci_.find(finestra->numero); v != voci_.end() && v->second.doc == finestra.get()) {
+      togli(finestra->numero);
     }
   }
   annota(bas);

@@ -25,7 +25,7 @@ class copieaperte {
   explicit copieaperte(std::filesystem::path cartella) : radice_(std::move(cartella)) {}
   copieaperte(const copieaperte&) = delete;
   copieaperte& operator=(const copieaperte&) = delete;
-  // A program that ends as it should leaves nothing.
+  // A program that ends as it should leaves nothing but what nobody was asked about.
   ~copieaperte();
 
   // Notes the drawings that are open, so that a save that is broken off can be told at the next start. Cheap if there
@@ -46,10 +46,14 @@ class copieaperte {
     const distipo* doc = nullptr;
     std::string nota;
     std::uint64_t copiata = 0;  // state of the drawing in its copy; 0 for none
+    bool resta = false;         // its window would close without a question, and take what was not saved with it
   };
 
   bool prepara();
+  // A new copy, if the last one is not of the drawing as it stands.
+  void ricopia(const distipo& doc);
   void copia(const distipo& doc, voce& v);
+  void chiuso(int numero);
   void togli(int numero);
   std::filesystem::path file(int numero, const char* estensione) const;
 

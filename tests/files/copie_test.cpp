@@ -136,6 +136,28 @@ TEST(Copie, OddNotesAreLostOnesAtMost) {
   }
 }
 
+// The mark goes also where nothing was saved, and with it the question at closing.
+TEST(Copie, OutliveAWindowThatClosedWithoutAQuestion) {
+  CopiedProgram p;
+  {
+    copieaperte copies(p.folder / "p");
+    for (int number = 1; number <= 4; ++number) {
+      distipo& doc = p.open(number, "Disegno _ " + std::to_string(number));
+      doc.dis.collLinee.aggiungi({});
+      doc.segno_tolto = number != 4;
+    }
+    p.bas.finestredocumenti[2]->cmd.modificato = 1;  // asked about, and given up
+    p.bas.finestredocumenti[3]->salvata = p.bas.finestredocumenti[3]->dis.revisione();
+    copies.annota(p.bas);
+    for (int number = 1; number <= 4; ++number) p.close(number);
+    copies.annota(p.bas);
+  }
+  const std::vector<disegnoperduto> lost = copieaperte(p.folder / "p").perduti();
+  ASSERT_EQ(lost.size(), 1U);
+  EXPECT_EQ(lost[0].nome, "Disegno _ 1");
+  EXPECT_NE(lost[0].copia, "");
+}
+
 TEST(Copie, TwoProgramsKeepApart) {
   CopiedProgram first;
   CopiedProgram second;
