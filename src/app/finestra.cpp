@@ -4,6 +4,7 @@
 
 #include "app/barre.h"
 #include "app/file.h"
+#include "commands/comando.h"
 #include "commands/impostazioni.h"
 #include "commands/motore.h"
 #include "commands/prompt.h"
@@ -119,7 +120,9 @@ void Form_Resize(distipo& doc) {
     doc.ridimensionato = true;
     return;
   }
-  if (!doc.cmd.comando().empty()) doc.cmd.ultimocomando = doc.cmd.comando();
+  // The picking of the print window belongs to its dialog: a right click does not start it again.
+  const comando* c = comando_corrente(doc);
+  if (c != nullptr && c->tipo != genere::areastampa) doc.cmd.ultimocomando = c->nome;
   con_comando_da_parte(doc, [&] { redraw(doc); });
   doc.cmd.modificato = 1;
 }

@@ -90,7 +90,9 @@ void prepara_zoomp(trelvobas& bas) {
   };
   z.VScroll1.Value.on_change([&z] { mostra_percentuale(z); });
   z.Text1.KeyPress = [&bas](int& codice) {
-    if (codice == key_enter) conferma_zoomp(bas);
+    if (codice != key_enter) return;
+    codice = 0;
+    conferma_zoomp(bas);
   };
   z.Command1.Click = [&bas] { conferma_zoomp(bas); };
   z.Command2.Click = [&z] { z.unload(); };

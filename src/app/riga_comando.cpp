@@ -67,18 +67,22 @@ double fy1(const trelvobas& bas) { return ordinata(bas.frmMain.Text1.Text); }
 double fx2(const trelvobas& bas) { return ascissa(bas.frmMain.Text2.Text); }
 double fy2(const trelvobas& bas) { return ordinata(bas.frmMain.Text2.Text); }
 
-void Text1_KeyPress(trelvobas& bas, int KeyAscii) {
+void Text1_KeyPress(trelvobas& bas, int& KeyAscii) {
+  const int tasto = KeyAscii;
+  if (tasto == key_enter) KeyAscii = 0;
   distipo* doc = bas.attivo();
   if (doc == nullptr) return;
-  if (KeyAscii == key_enter) invio_Text1(*doc);
-  if (KeyAscii == key_escape) gestastiera(*doc, KeyAscii);
+  if (tasto == key_enter) invio_Text1(*doc);
+  if (tasto == key_escape) gestastiera(*doc, tasto);
 }
 
-void Text2_KeyPress(trelvobas& bas, int KeyAscii) {
+void Text2_KeyPress(trelvobas& bas, int& KeyAscii) {
+  const int tasto = KeyAscii;
+  if (tasto == key_enter) KeyAscii = 0;
   distipo* doc = bas.attivo();
   if (doc == nullptr) return;
-  if (KeyAscii == key_enter) invio_Text2(*doc);
-  if (KeyAscii == key_escape) gestastiera(*doc, KeyAscii);
+  if (tasto == key_enter) invio_Text2(*doc);
+  if (tasto == key_escape) gestastiera(*doc, tasto);
 }
 
 }  // namespace trelvo

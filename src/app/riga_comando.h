@@ -11,7 +11,7 @@ double fy1(const trelvobas& bas);
 double fx2(const trelvobas& bas);
 double fy2(const trelvobas& bas);
 
-void Text1_KeyPress(trelvobas& bas, int KeyAscii);
-void Text2_KeyPress(trelvobas& bas, int KeyAscii);
+void Text1_KeyPress(trelvobas& bas, int& KeyAscii);
+void Text2_KeyPress(trelvobas& bas, int& KeyAscii);
 
 }  // namespace trelvo

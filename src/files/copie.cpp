@@ -60,6 +60,16 @@ bool scrivi(const fs::path& file, const std::string& testo) {
   return false;
 }
 
+bool uguali(const fs::path& uno, const fs::path& altro) {
+  std::error_code errore;
+  const std::uintmax_t lunghezza = fs::file_size(uno, errore);
+  if (errore || fs::file_size(altro, errore) != lunghezza || errore) return false;
+  std::ifstream primo(uno, std::ios::binary);
+  std::ifstream secondo(altro, std::ios::binary);
+  using byte = std::istreambuf_iterator<char>;
+  return primo && secondo && std::equal(byte(primo), byte(), byte(secondo), byte());
+}
+
 // A copy whose note was lost is that of a drawing without a name.
 disegnoperduto leggi_nota(const fs::path& nota) {
   disegnoperduto perduto;
@@ -72,7 +82,8 @@ disegnoperduto leggi_nota(const fs::path& nota) {
   }
   if (perduto.nome.empty()) perduto.nome = titolo_senza_nome(1);
   const fs::path copia = fs::path(nota).replace_extension(estensione_copia);
-  if (leggibile(copia.string())) perduto.copia = copia.string();
+  // Objects that were only looked at, as by a selection or a print, made a copy of what the file says too.
+  if (leggibile(copia.string()) && !uguali(copia, perduto.nome)) perduto.copia = copia.string();
   perduto.nota = nota;
   return perduto;
 }

@@ -72,6 +72,8 @@ void DesktopQt::run(const std::function<void()>& action) {
 
 void DesktopQt::refresh() {
   if (frame_) frame_->refresh();
+  std::erase(canvases_, nullptr);
+  for (const QPointer<Canvas>& canvas : canvases_) canvas->refresh();
 }
 
 void DesktopQt::show_pointer() {

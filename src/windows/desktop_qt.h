@@ -9,6 +9,7 @@
 #include "document/trelvobas.h"
 #include "platform/desktop.h"
 #include "platform/qt/font_service_qt.h"
+#include "windows/canvas.h"
 
 namespace trelvo {
 
@@ -33,6 +34,8 @@ class DesktopQt : public Desktop {
 
   // Shows what the running event changed so far.
   void refresh();
+  // A dialog's canvas is looked at after each event, as the documents' are.
+  void keep_fresh(Canvas* canvas) { canvases_.emplace_back(canvas); }
   // The screen's pointer as the program wants it.
   void show_pointer();
 
@@ -84,6 +87,7 @@ class DesktopQt : public Desktop {
   std::unique_ptr<FrameWindow> frame_;
   QPointer<QWidget> main_window_;
   std::unordered_map<const Control*, QPointer<QWidget>> widgets_;
+  std::vector<QPointer<Canvas>> canvases_;
 };
 
 }  // namespace trelvo

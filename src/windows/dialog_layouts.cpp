@@ -77,21 +77,10 @@ void lay_out_impost(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto* preview = new QVBoxLayout;
   auto* title = new QLabel;
   bind_label(desktop, title, f.Label1);
-  auto* canvas = new Canvas(f.anteprima, {&f.Line1, &f.Line2}, {});
-  canvas->keep_size();
+  auto* canvas = make_preview(desktop, f.anteprima, {&f.Line1, &f.Line2});
   canvas->setFixedSize(static_cast<int>(f.Picture1.Width / twips_per_pixel),
                        static_cast<int>(f.Picture1.Height / twips_per_pixel));
-  canvas->setAccessibleName("Anteprima");
-  canvas->moved = [&desktop, &f, canvas](float x, float y) {
-    desktop.run([&] { f.Picture1.SurfaceMouseMove(x, y); });
-    canvas->refresh();
-  };
-  // The preview follows every change of the dialog.
-  follow(canvas, f.Picture1.BackColor, [canvas] { canvas->update(); });
-  for (PropertyBase* property : std::initializer_list<PropertyBase*>{&f.Text1.Text, &f.Text2.Text, &f.Text3.Text,
-                                                                     &f.Option1.Value, &f.Option2.Value}) {
-    follow(canvas, *property, [canvas] { canvas->update(); });
-  }
+  canvas->moved = [&desktop, &f](float x, float y) { desktop.run([&] { f.Picture1.SurfaceMouseMove(x, y); }); };
   preview->addWidget(title);
   preview->addWidget(canvas);
   preview->addStretch(1);

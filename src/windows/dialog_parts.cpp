@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "windows/binding.h"
+#include "windows/desktop_qt.h"
 #include "windows/form_dialog.h"
 #include "windows/text_entry.h"
 
@@ -43,6 +44,15 @@ QLayout* button_row(DesktopQt& desktop, FormDialog& dialog, Button& confirm, But
   row->addWidget(make_button(desktop, leave));
   dialog.set_leave_button(leave);
   return row;
+}
+
+Canvas* make_preview(DesktopQt& desktop, RasterSurface& surface, std::vector<OverlayLine*> lines,
+                     std::vector<OverlayShape*> shapes) {
+  auto* canvas = new Canvas(surface, std::move(lines), std::move(shapes));
+  canvas->keep_size();
+  canvas->setAccessibleName("Anteprima");
+  desktop.keep_fresh(canvas);
+  return canvas;
 }
 
 QGroupBox* make_group(DesktopQt& desktop, Frame& frame) {

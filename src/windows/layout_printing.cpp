@@ -26,14 +26,13 @@ int pixels(float millimetres) { return static_cast<int>(std::lround(millimetres 
 // The sheet in the middle of its room, with its shadow behind it.
 class Sheet : public QWidget {
  public:
-  explicit Sheet(GeststampForm& form) : form_(form), canvas_(new Canvas(form.anteprima, {}, {}, this)) {
-    canvas_->keep_size();
+  Sheet(DesktopQt& desktop, GeststampForm& form) : form_(form), canvas_(make_preview(desktop, form.anteprima)) {
+    canvas_->setParent(this);
     canvas_->setAccessibleName("Anteprima di stampa");
     canvas_->setGeometry(pixels(form.Picture1.Left), pixels(form.Picture1.Top), form.anteprima.Image().width,
                          form.anteprima.Image().height);
     setFixedSize(pixels(form.ScaleWidth), canvas_->geometry().bottom() + 1 + pixels(3));
   }
-  Canvas* canvas() const { return canvas_; }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
@@ -61,12 +60,7 @@ void add_box(DesktopQt& desktop, QHBoxLayout* row, Label& label, TextBox& box, c
 void lay_out_Geststamp(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto& f = dynamic_cast<GeststampForm&>(form);
   auto* layout = new QVBoxLayout(&dialog);
-  auto* sheet = new Sheet(f);
-  for (PropertyBase* property :
-       std::initializer_list<PropertyBase*>{&f.Text1.Text, &f.Text2.Text, &f.Text3.Text, &f.WindowState}) {
-    follow(sheet, *property, [sheet] { sheet->canvas()->update(); });
-  }
-  layout->addWidget(sheet, 0, Qt::AlignHCenter);
+  layout->addWidget(new Sheet(desktop, f), 0, Qt::AlignHCenter);
 
   auto* boxes = new QHBoxLayout;
   QGroupBox* scale = make_group(desktop, f.Frame1);

@@ -69,21 +69,8 @@ QGroupBox* outline_group(DesktopQt& desktop, const OutlineControls& c) {
   return group;
 }
 
-Canvas* preview(RasterSurface& surface, const PictureBox& box, std::vector<OverlayLine*> lines,
-                std::vector<OverlayShape*> shapes) {
-  auto* canvas = new Canvas(surface, std::move(lines), std::move(shapes));
-  canvas->keep_size();
+QGroupBox* preview_group(DesktopQt& desktop, Frame& frame, Canvas* canvas, const PictureBox& box) {
   canvas->setFixedSize(static_cast<int>(box.Width / twips_per_pixel), static_cast<int>(box.Height / twips_per_pixel));
-  canvas->setAccessibleName("Anteprima");
-  return canvas;
-}
-
-template <class Overlay>
-void follow_overlay(Canvas* canvas, Overlay& overlay) {
-  for (PropertyBase* property : overlay.properties()) follow(canvas, *property, [canvas] { canvas->update(); });
-}
-
-QGroupBox* preview_group(DesktopQt& desktop, Frame& frame, Canvas* canvas) {
   QGroupBox* group = make_group(desktop, frame);
   auto* layout = new QVBoxLayout(group);
   layout->addWidget(canvas, 0, Qt::AlignCenter);
@@ -196,8 +183,7 @@ void lay_out_TipoLinea(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto& f = dynamic_cast<TipoLineaForm&>(form);
   auto* outline =
       outline_group(desktop, {f.Frame3, f.picture1, f.Label8, f.Label9, f.Text1, f.Label1, f.Command4, f.Label2});
-  Canvas* canvas = preview(f.anteprima, f.Picture4, {&f.Line1}, {});
-  follow_overlay(canvas, f.Line1);
+  Canvas* canvas = make_preview(desktop, f.anteprima, {&f.Line1});
   QWidget* right = nullptr;
   if (f.Frame4.Visible) right = points_group(desktop, f);
   if (f.vertici.Frame5.Visible) {
@@ -205,20 +191,20 @@ void lay_out_TipoLinea(DesktopQt& desktop, FormDialog& dialog, Form& form) {
     add_vertex_lists(desktop, new QVBoxLayout(group), f.vertici);
     right = group;
   }
-  put_columns(desktop, dialog, {outline, preview_group(desktop, f.Frame1, canvas)}, right, f.Command1, f.Command2);
+  put_columns(desktop, dialog, {outline, preview_group(desktop, f.Frame1, canvas, f.Picture4)}, right, f.Command1,
+              f.Command2);
 }
 
 void lay_out_TipoSuperficie(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto& f = dynamic_cast<TipoSuperficieForm&>(form);
   auto* outline =
       outline_group(desktop, {f.Frame3, f.picture1, f.Label8, f.Label5, f.Text1, f.Label7, f.Command4, f.Label6});
-  Canvas* canvas = preview(f.anteprima, f.Picture2, {}, {&f.Shape1});
-  follow_overlay(canvas, f.Shape1);
+  Canvas* canvas = make_preview(desktop, f.anteprima, {}, {&f.Shape1});
   auto* middle = new QWidget;
   auto* column = new QVBoxLayout(middle);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(fill_group(desktop, f));
-  column->addWidget(preview_group(desktop, f.Frame1, canvas));
+  column->addWidget(preview_group(desktop, f.Frame1, canvas, f.Picture2));
   column->addStretch(1);
   auto* both = new QWidget;
   auto* row = new QHBoxLayout(both);

@@ -34,8 +34,7 @@ void TextEntry::keyPressEvent(QKeyEvent* event) {
   const int code = character_code(*event);
   int changed = code;
   if (code != 0 && box_.KeyPress) desktop_.run([&] { box_.KeyPress(changed); });
-  // Enter is the handler's alone; Esc goes on to the dialog, if there is one.
-  if (code == key_enter && box_.KeyPress) return;
+  // What the handler leaves of Enter and Esc goes on to the dialog, if there is one.
   if (changed == 0 && code != 0) return;
   if (changed != code) {
     insert(QString::fromStdString(from_code_page(std::string(1, static_cast<char>(changed)))));

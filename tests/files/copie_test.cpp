@@ -69,9 +69,13 @@ TEST(Copie, FollowWhatIsNotSaved) {
   copies.aggiorna(p.bas);
   EXPECT_EQ(p.files(), 3U) << "a saved drawing needs its note alone";
   EXPECT_EQ(copieaperte(killed(p)).perduti().size(), 1U);
-  named.dis.collLinee(1).stato = stato_cancellato;
+  named.dis.collLinee(1).stampare = 1;
   copies.aggiorna(p.bas);
   EXPECT_EQ(p.files(), 4U);
+  EXPECT_EQ(copieaperte(killed(p)).perduti().size(), 1U) << "what the file says is not lost";
+  named.dis.collLinee(1).stato = stato_cancellato;
+  copies.aggiorna(p.bas);
+  EXPECT_EQ(copieaperte(killed(p)).perduti().size(), 2U);
   // Another window of the same number has nothing of the former one.
   p.open(1, "Disegno _ 1");
   copies.annota(p.bas);

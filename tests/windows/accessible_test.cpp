@@ -6,6 +6,8 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
@@ -188,6 +190,44 @@ TEST_F(Accessible, Report) {
 TEST_F(Accessible, Printing) {
   look(
       3, [&] { choose("opfile", 8); }, [](QWidget& window) { button(window, "Spessore Linee").click(); });
+}
+
+void press(QWidget& widget, Qt::Key key, const QString& text) {
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&widget, &event);
+  }
+}
+
+// Enter confirms a box that looks at its keys too, and the sheet behind shows the new thickness.
+TEST_F(Accessible, EnterConfirmsTheThicknesses) {
+  choose("opdis", 1);
+  click(2, 2);
+  click(8, 5);
+  right_click();
+  int steps = 0;
+  QTimer::singleShot(0, [&] {
+    QWidget& printing = *QApplication::activeModalWidget();
+    const QImage before = printing.grab().toImage();
+    QTimer::singleShot(0, [&] {
+      QWidget& thicknesses = *QApplication::activeModalWidget();
+      auto* black = thicknesses.findChild<QLineEdit*>();
+      black->selectAll();
+      press(*black, Qt::Key_9, "9");
+      press(*black, Qt::Key_Return, "\r");
+      EXPECT_FALSE(thicknesses.isVisible());
+      thicknesses.close();
+      ++steps;
+    });
+    button(printing, "Spessore Linee").click();
+    EXPECT_EQ(bas.spessoristampa[0], 9.F);
+    QApplication::processEvents();
+    EXPECT_NE(printing.grab().toImage(), before);
+    printing.close();
+    ++steps;
+  });
+  choose("opfile", 8);
+  EXPECT_EQ(steps, 2);
 }
 
 TEST_F(Accessible, ZoomAndProperties) {
