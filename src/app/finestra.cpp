@@ -55,9 +55,10 @@ void vista_iniziale(distipo& doc) {
   selzoom(doc, 0, 0, v.xmaxdis, v.ymaxdis);
 }
 
+// A drawing that was saved under another name still stands in the list by the former ones.
 void dimentica_nome(distipo& doc) {
-  for (std::string& nome : doc.bas.nomidocumenti) {
-    if (nome == doc.Caption.get()) nome.clear();
+  for (const std::string& suo : {doc.Caption.get(), doc.aperto_da, titolo_senza_nome(doc.numero)}) {
+    std::replace(doc.bas.nomidocumenti.begin(), doc.bas.nomidocumenti.end(), suo, std::string());
   }
 }
 

@@ -59,8 +59,7 @@ void apri_da_riga(trelvobas& bas, const std::string& nome) {
   nuovodisegno(bas);
   bas.disegnoattivo = bas.ndocumenti;
   const PointerGuard attesa(bas.desktop, pointer_hourglass);
-  bas.nomidocumenti[static_cast<std::size_t>(bas.disegnoattivo)] = nome;
-  bas.attivo()->Caption = nome;
+  registra_nome(*bas.attivo(), nome);
   if (testo_di_disegno(nome)) {
     importa(*bas.attivo());
   } else {

@@ -42,10 +42,7 @@ void riapri_perduto(trelvobas& bas, copieaperte& copie, const disegnoperduto& pe
   if (bas.ndocumenti == 0) attivabarre(bas);
   nuovodisegno(bas);
   distipo& doc = *bas.attivo();
-  if (proprio_nome) {
-    registra_nome(bas, perduto.nome);
-    doc.Caption = perduto.nome;
-  }
+  if (proprio_nome) registra_nome(doc, perduto.nome);
   leggifile(doc, sorgente);
   if (proprio_nome && !perduto.copia.empty()) doc.impronta = perduto.impronta;
   copie.aggiorna(bas);

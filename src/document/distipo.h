@@ -84,6 +84,7 @@ struct distipo : distipoForm {
     float dy = 0;
   } mouse;
   bool ridimensionato = false;
+  std::string aperto_da;      // name that it was opened by, in the list of names; empty for a new drawing
   std::uint64_t salvata = 0;  // state of the drawing when it was read or written last
   bool segno_tolto = false;   // the mark of a change was cleared once, though no file holds the change
   std::string impronta;       // of the file that holds all that was read from it or written to it last; empty for none

@@ -66,8 +66,7 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
     servizi.scarica(doc);
     return;
   }
-  registra_nome(bas, nome);
-  doc.Caption = nome;
+  registra_nome(doc, nome);
   if (testo_di_disegno(nome)) {
     servizi.importa(doc);
   } else {
@@ -77,7 +76,10 @@ void apri(trelvobas& bas, distipo& doc, const servizifile& servizi) {
 
 }  // namespace
 
-void registra_nome(trelvobas& bas, const std::string& nome) {
+void registra_nome(distipo& doc, const std::string& nome) {
+  trelvobas& bas = doc.bas;
+  doc.Caption = nome;
+  doc.aperto_da = nome;
   if (bas.ndocumenti < 1) return;
   const auto posto = static_cast<std::size_t>(bas.ndocumenti);
   if (bas.nomidocumenti.size() <= posto) bas.nomidocumenti.resize(posto + 1);

@@ -21,8 +21,8 @@ struct servizifile {
 bool senza_nome(const std::string& titolo);
 std::string titolo_senza_nome(int numero);
 
-// The document opened last has the file of this name: it counts as in use.
-void registra_nome(trelvobas& bas, const std::string& nome);
+// The document, the last one opened, has the file of this name: it counts as in use.
+void registra_nome(distipo& doc, const std::string& nome);
 
 // `comando` is "Apri", "Salva" or "SalvaConNome", for the document in front. "Apri" reads into that document, which is
 // new, and has it unloaded if nothing is opened. What cannot be opened or written is no error and gives no message; an
