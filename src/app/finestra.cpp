@@ -55,9 +55,16 @@ void vista_iniziale(distipo& doc) {
   selzoom(doc, 0, 0, v.xmaxdis, v.ymaxdis);
 }
 
-// A drawing that was saved under another name still stands in the list by the former ones.
+// A drawing that was saved under another name still stands in the list by the former ones. A name that another window
+// has too stays in use.
 void dimentica_nome(distipo& doc) {
+  const auto di_altri = [&doc](const std::string& nome) {
+    return std::any_of(doc.bas.finestredocumenti.begin(), doc.bas.finestredocumenti.end(), [&](const auto& finestra) {
+      return finestra && finestra.get() != &doc && finestra->Caption.get() == nome;
+    });
+  };
   for (const std::string& suo : {doc.Caption.get(), doc.aperto_da, titolo_senza_nome(doc.numero)}) {
+    if (di_altri(suo)) continue;
     std::replace(doc.bas.nomidocumenti.begin(), doc.bas.nomidocumenti.end(), suo, std::string());
   }
 }

@@ -19,8 +19,8 @@ namespace trelvo {
 
 namespace {
 
-// The count of the scratch record lives as long as the document.
-std::int16_t& nvertici_di_scarto(distipo& doc) { return doc.cmd.comandi.front().nvertici; }
+// It lives as long as the document.
+reccomando& scarto(distipo& doc) { return doc.cmd.comandi.front(); }
 
 testatadis testata_di(const distipo& doc) {
   testatadis t;
@@ -76,10 +76,10 @@ bool leggi_disegno(distipo& doc, fileaperto& file, errorerimandato& errore) {
   doc.cmd.statooggetti = 0;
   doc.cmd.statotesti = 0;
   letturadis esito;
-  esito.nvertici = nvertici_di_scarto(doc);
+  esito.scarto = scarto(doc);
   const bool letto =
       errore.prova([&] { leggi_oggetti([&](std::span<std::byte> dove) { return file.leggi(dove); }, doc.dis, esito); });
-  nvertici_di_scarto(doc) = esito.nvertici;
+  scarto(doc) = esito.scarto;
   if (esito.riconosciuti) doc.cmd.statooggetti = 1;
   return letto && esito.intero;
 }
@@ -91,8 +91,7 @@ void salvafile(distipo& doc) {
   const PointerGuard attesa(doc.bas.desktop, pointer_hourglass);
   sostituzione nuovo(doc.Caption, doc.impronta != impronta(doc.Caption));
   try {
-    scrivi_disegno(testata_di(doc), doc.dis, nvertici_di_scarto(doc),
-                   [&](std::span<const std::byte> dati) { nuovo.scrivi(dati); });
+    scrivi_disegno(testata_di(doc), doc.dis, scarto(doc), [&](std::span<const std::byte> dati) { nuovo.scrivi(dati); });
     nuovo.concludi();
     doc.impronta = impronta(doc.Caption);
     doc.salvata = doc.dis.revisione();
@@ -104,9 +103,9 @@ void salvafile(distipo& doc) {
 }
 
 void scrivi_copia(const distipo& doc, const std::string& nome) {
-  std::int16_t nvertici = 0;
+  reccomando scarto;
   fileaperto file(nome, fileaperto::modo::vuotato);
-  scrivi_disegno(testata_di(doc), doc.dis, nvertici, [&](std::span<const std::byte> dati) { file.scrivi(dati); });
+  scrivi_disegno(testata_di(doc), doc.dis, scarto, [&](std::span<const std::byte> dati) { file.scrivi(dati); });
   file.chiudi();
 }
 

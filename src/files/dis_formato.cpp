@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "files/valori.h"
+#include "platform/text.h"
 
 namespace trelvo {
 
@@ -59,6 +60,20 @@ class letturatestata {
 };
 
 }  // namespace
+
+reccomando immagine(const std::byte* record) {
+  reccomando r;
+  r.tipo(from_code_page({reinterpret_cast<const char*>(record + posto_tipo), lunghezza_tipo}));
+  const auto punto = [record](std::size_t k, double& x, double& y) {
+    x = prendi<double>(record + posto_punto[k]);
+    y = prendi<double>(record + posto_punto[k] + sizeof(double));
+  };
+  punto(1, r.x1, r.y1);
+  punto(2, r.x2, r.y2);
+  punto(3, r.x3, r.y3);
+  r.nvertici = prendi<std::int16_t>(record + posto_nvertici);
+  return r;
+}
 
 std::array<std::byte, lunghezza_testata> codifica(const testatadis& testata) {
   std::array<std::byte, lunghezza_testata> byte{};

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "document/reccomando.h"
 #include "document/stato.h"
 #include "files/errore_rimandato.h"
 
@@ -56,6 +57,9 @@ struct testatadis {
   std::string statogriglia;
   float passogriglia = 0;
 };
+
+// The image of an object record as a command's: the scratch record holds the last one that was read or written.
+reccomando immagine(const std::byte* record);
 
 std::array<std::byte, lunghezza_testata> codifica(const testatadis& testata);
 

@@ -27,6 +27,7 @@ class flussorecord {
   bool avanza() {
     if (prossimo_ + lunghezza_slot > letti_) {
       const bool avanzo = prossimo_ < letti_;
+      tieni_ultimo();
       letti_ = preleva_(blocco_);
       prossimo_ = 0;
       if (letti_ < lunghezza_slot) {
@@ -36,8 +37,13 @@ class flussorecord {
     }
     record_ = blocco_.data() + prossimo_;
     prossimo_ += lunghezza_slot;
-    esito_.nvertici = intero<std::int16_t>(posto_nvertici);
     return true;
+  }
+
+  // Before its bytes go.
+  void tieni_ultimo() {
+    if (record_ != nullptr) esito_.scarto = immagine(record_);
+    record_ = nullptr;
   }
 
   std::string_view bytetesto(std::size_t posto, std::size_t lunghezza) const {
@@ -212,10 +218,7 @@ constexpr std::array<riga, 7> righe{{
     {tipo_testo, aggiungi<testo>},
 }};
 
-}  // namespace
-
-void leggi_oggetti(const prelievo& preleva, disegno& dis, letturadis& esito) {
-  flussorecord f(preleva, esito);
+void leggi_record(flussorecord& f, disegno& dis, letturadis& esito) {
   while (f.avanza()) {
     const std::string_view tipo = f.tipo();
     const auto* r = std::find_if(righe.begin(), righe.end(), [&](const riga& una) { return una.tipo == tipo; });
@@ -229,6 +232,19 @@ void leggi_oggetti(const prelievo& preleva, disegno& dis, letturadis& esito) {
       return;
     }
   }
+}
+
+}  // namespace
+
+void leggi_oggetti(const prelievo& preleva, disegno& dis, letturadis& esito) {
+  flussorecord f(preleva, esito);
+  try {
+    leggi_record(f, dis, esito);
+  } catch (...) {
+    f.tieni_ultimo();
+    throw;
+  }
+  f.tieni_ultimo();
 }
 
 }  // namespace trelvo

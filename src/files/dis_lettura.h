@@ -6,6 +6,7 @@
 #include <functional>
 #include <span>
 
+#include "document/reccomando.h"
 #include "model/disegno.h"
 
 namespace trelvo {
@@ -16,7 +17,7 @@ using prelievo = std::function<std::size_t(std::span<std::byte>)>;
 struct letturadis {
   bool riconosciuti = false;  // a record was that of an object
   bool intero = true;         // nothing was passed over
-  std::int16_t nvertici = 0;  // of the last record that was read
+  reccomando scarto;          // image of the last record that was read; as it was if there is none
 };
 
 // Adds to `dis` the objects of the records up to the end. A record that is not there in full ends the reading, as does

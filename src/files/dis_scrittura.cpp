@@ -23,7 +23,7 @@ constexpr auto record_pulito = [] {
 
 class scrittore {
  public:
-  scrittore(std::int16_t& nvertici, const consegna& scarica)
+  scrittore(std::int16_t nvertici, const consegna& scarica)
       : nvertici_(nvertici), scarica_(scarica), blocco_(record_per_blocco * lunghezza_slot) {}
 
   void oggetto(const Linea& o) {
@@ -87,6 +87,9 @@ class scrittore {
     pieni_ = 0;
   }
 
+  // The last record, whether it was handed out already or not; null if there is none.
+  const std::byte* ultimo() const { return record_; }
+
  private:
   void nuovo(std::string_view tipo) {
     if (pieni_ == record_per_blocco) svuota();
@@ -126,7 +129,7 @@ class scrittore {
     }
   }
 
-  std::int16_t& nvertici_;
+  std::int16_t nvertici_;
   const consegna& scarica_;
   std::vector<std::byte> blocco_;
   std::size_t pieni_ = 0;
@@ -135,13 +138,14 @@ class scrittore {
 
 }  // namespace
 
-void scrivi_disegno(const testatadis& testata, const disegno& dis, std::int16_t& nvertici, const consegna& scarica) {
-  scrittore s(nvertici, scarica);
+void scrivi_disegno(const testatadis& testata, const disegno& dis, reccomando& scarto, const consegna& scarica) {
+  scrittore s(scarto.nvertici, scarica);
   scarica(codifica(testata));
   visita<Linea, superficie, polilinea, Arco, Cerchio, Rettangolo, testo>(dis, [&](const auto& oggetto) {
     if (oggetto.stato != stato_cancellato) s.oggetto(oggetto);
   });
   s.svuota();
+  if (s.ultimo() != nullptr) scarto = immagine(s.ultimo());
 }
 
 }  // namespace trelvo

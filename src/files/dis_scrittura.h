@@ -14,8 +14,8 @@ namespace trelvo {
 // Takes the next piece of the file.
 using consegna = std::function<void(std::span<const std::byte>)>;
 
-// `nvertici` is that of the scratch record: each record holds the count of the last polyline or surface before it,
-// whatever it was at the start, and the last one stays. Whatever `scarica` throws comes through.
-void scrivi_disegno(const testatadis& testata, const disegno& dis, std::int16_t& nvertici, const consegna& scarica);
+// Each record holds the vertex count of the last polyline or surface before it, or that of the scratch record `scarto`
+// before the first one. In the end `scarto` is the image of the last record. Whatever `scarica` throws comes through.
+void scrivi_disegno(const testatadis& testata, const disegno& dis, reccomando& scarto, const consegna& scarica);
 
 }  // namespace trelvo

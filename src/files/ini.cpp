@@ -24,8 +24,8 @@ void scorri(Documento& doc, Slot& slot) {
   auto& imp = doc.imp;
   auto& def = doc.bas.def;
   auto& testi = doc.testi;
-  slot.passo(imp.passogriglia);
-  slot.passo(imp.passostep);
+  slot.reale(imp.passogriglia);
+  slot.reale(imp.passostep);
   slot.interruttore(imp.statostep);
   slot.interruttore(imp.statogriglia);
   slot.colore(imp.coloresfondo);
@@ -48,13 +48,12 @@ void scorri(Documento& doc, Slot& slot) {
   slot.intero(testi.coloretestodef);
   slot.intero(testi.opacotestodef);
   slot.intero(testi.coloreopacotestodef);
-  for (float& spessore : doc.bas.spessoristampa) slot.spessore(spessore);
+  for (float& spessore : doc.bas.spessoristampa) slot.reale(spessore);
 }
 
 class slotscritti {
  public:
-  void passo(float valore) { metti<float>(prossimo().data(), valore); }
-  void spessore(float valore) { metti<float>(prossimo().data(), valore); }
+  void reale(float valore) { metti<float>(prossimo().data(), valore); }
   void interruttore(const std::string& valore) { metti_tipizzato(prossimo(), valore); }
   void colore(const indicecolore& valore) { metti_tipizzato(prossimo(), tipizzato(valore)); }
   void barra(std::int16_t valore) { metti_tipizzato(prossimo(), valore); }
@@ -82,10 +81,7 @@ class slotletti {
  public:
   explicit slotletti(std::span<const std::byte> byte) : byte_(byte) {}
 
-  void passo(float& valore) {
-    numero(valore, [](float letto) { return std::isfinite(letto) && letto >= 0; });
-  }
-  void spessore(float& valore) {
+  void reale(float& valore) {
     numero(valore, [](float letto) { return std::isfinite(letto); });
   }
   template <class Intero>

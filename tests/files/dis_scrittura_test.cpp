@@ -12,8 +12,8 @@ TEST(DisScrittura, HeaderSlotBySlot) {
   put(expected, 970, std::int16_t{2});
   put(expected, 1452, std::int16_t{5});
   put(expected, 1454, 5.0);
-  std::int16_t nvertici = 0;
-  EXPECT_EQ(bytes_of({}, nvertici, t), expected);
+  reccomando scratch;
+  EXPECT_EQ(bytes_of({}, scratch, t), expected);
 }
 
 TEST(DisScrittura, EveryClassInItsOrder) {
@@ -106,9 +106,13 @@ TEST(DisScrittura, EveryClassInItsOrder) {
                                    .look(7, 8, 1, -30, 12.5F)
                                    .text(std::string_view("Arial\0", 6), "perch\xE9")
                                    .byte;
-  std::int16_t nvertici = 9;
-  EXPECT_EQ(bytes_of(dis, nvertici).substr(lunghezza_testata), expected);
-  EXPECT_EQ(nvertici, 3);
+  reccomando scratch;
+  scratch.nvertici = 9;
+  EXPECT_EQ(bytes_of(dis, scratch).substr(lunghezza_testata), expected);
+  EXPECT_EQ(scratch.tipo(), "Testo");
+  EXPECT_EQ(scratch.x1, 21);
+  EXPECT_EQ(scratch.y3, 1);
+  EXPECT_EQ(scratch.nvertici, 3);
 }
 
 TEST(DisScrittura, RecordsByVertexCount) {

@@ -115,7 +115,7 @@ TEST(Ini, WrongValuesTakeTheirDefaults) {
     bool taken;
   } cases[] = {
       {"pitch", 1, plain(0.0F), true},
-      {"negative pitch", 1, plain(-1.0F), false},
+      {"negative pitch", 1, plain(-1.0F), true},
       {"pitch without end", 2, plain(std::numeric_limits<float>::infinity()), false},
       {"switch of another case", 3, std::string("\x08\0\x02\0on", 6), false},
       {"number for a switch", 4, number_tag, false},

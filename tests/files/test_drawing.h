@@ -9,9 +9,9 @@
 
 namespace trelvo {
 
-inline std::string bytes_of(const disegno& dis, std::int16_t& nvertici, const testatadis& testata = {}) {
+inline std::string bytes_of(const disegno& dis, reccomando& scratch, const testatadis& testata = {}) {
   std::string byte;
-  scrivi_disegno(testata, dis, nvertici, [&](std::span<const std::byte> dati) {
+  scrivi_disegno(testata, dis, scratch, [&](std::span<const std::byte> dati) {
     byte.append(reinterpret_cast<const char*>(dati.data()), dati.size());
   });
   return byte;
@@ -19,8 +19,8 @@ inline std::string bytes_of(const disegno& dis, std::int16_t& nvertici, const te
 
 // The object records alone, as a fresh document writes them.
 inline std::string records_of(const disegno& dis) {
-  std::int16_t nvertici = 0;
-  return bytes_of(dis, nvertici).substr(lunghezza_testata);
+  reccomando scratch;
+  return bytes_of(dis, scratch).substr(lunghezza_testata);
 }
 
 inline letturadis read_records(const std::string& record, disegno& dis) {
