@@ -110,8 +110,8 @@ void esegui_precedente(distipo& doc, int& /*n*/) {
     selzoom(doc, r.x1, r.y1, r.x2, r.y2);
     impscroll(doc);
   } else if (!vista_memorizzata(doc)) {
-    selzoom(doc, v.xminvis, v.yminvis, static_cast<double>(v.xminvis) + v.larghezzavis,
-            static_cast<double>(v.yminvis) + v.altezzavis);
+    // Summed as 32-bit floats, as when the file was opened: the same view comes back.
+    selzoom(doc, v.xminvis, v.yminvis, v.xminvis + v.larghezzavis, v.yminvis + v.altezzavis);
     impscroll(doc);
     memxin(doc);
   } else {

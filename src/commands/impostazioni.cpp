@@ -16,7 +16,6 @@ constexpr int voce_generali = 1;
 constexpr int voce_step = 4;
 constexpr int voce_griglia = 5;
 constexpr int voce_orto = 6;
-constexpr int voce_bordo = 7;
 constexpr int colore_acceso = 0;
 constexpr int colore_spento = 8;
 

@@ -5,6 +5,8 @@
 
 namespace trelvo {
 
+constexpr int voce_bordo = 7;
+
 // Item of the menu `aiutdis`: 1 the dialog of the general settings, 4 step, 5 grid, 6 ortho, 7 frame round texts.
 void impaiut(distipo& doc, int indice);
 

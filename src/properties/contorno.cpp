@@ -117,6 +117,11 @@ std::optional<std::int32_t> indice_scelto(const Label& label) {
   return round_to_int32(numero_di(label));
 }
 
+std::optional<std::int32_t> valore_in_vista(const Label& label) {
+  if (e_vari(label) || label.Caption.get().empty()) return std::nullopt;
+  return round_clamped(numero_di(label));
+}
+
 std::optional<Color> colore_scelto(const Label& label) { return indice_scelto(label); }
 
 std::optional<std::int32_t> tratto_scelto(const Label& label) {

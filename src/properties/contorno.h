@@ -47,6 +47,9 @@ std::optional<Color> colore_scelto(const Label& label);
 std::optional<std::int32_t> tratto_scelto(const Label& label);
 std::optional<std::int32_t> indice_scelto(const Label& label);
 
+// The same for a preview, which shows nothing of a label before it is filled.
+std::optional<std::int32_t> valore_in_vista(const Label& label);
+
 // Swatch of a stored style, and back.
 int indice_di_tratto(std::int32_t tratto);
 

@@ -11,6 +11,7 @@
 #include "properties/contorno.h"
 #include "properties/selezionati.h"
 #include "view/pittura.h"
+#include "view/redraw.h"
 
 namespace trelvo {
 
@@ -264,8 +265,21 @@ void prepara_Gesttesto(trelvobas& bas) {
   bas.tabella.righe.push_back(std::make_shared<const comando>(riga_testo()));
 }
 
+namespace {
+
+// They take the frames round the texts away, which the menu and the drawing tell too.
+void valori_di_partenza(distipo& doc) {
+  inizializ_varTesto(doc);
+  MenuItem& bordo = doc.aiutdis(voce_bordo);
+  if (!bordo.Checked) return;
+  bordo.Checked = false;
+  redraw(doc);
+}
+
+}  // namespace
+
 void impost_gesttesto(distipo& doc) {
-  if (doc.testi.carattereDef.empty()) inizializ_varTesto(doc);
+  if (doc.testi.carattereDef.empty()) valori_di_partenza(doc);
   GesttestoForm& f = doc.bas.Gesttesto;
   const predefinititesto& t = doc.testi;
   f.CommonDialog2 = {t.carattereDef,

@@ -39,12 +39,11 @@ constexpr std::array modi{modo{una_linea, set_tipoLinea},
 
 void dislinea(TipoLineaForm& f) {
   f.anteprima.Cls();
-  if (f.Label1.Caption.get() != vari) {
-    f.Line1.BorderWidth =
-        std::clamp(round_clamped(numeric_prefix(f.Label1.Caption.get())), std::int32_t{1}, larghezza_massima);
+  if (const auto spessore = valore_in_vista(f.Label1)) {
+    f.Line1.BorderWidth = std::clamp(*spessore, std::int32_t{1}, larghezza_massima);
   }
-  if (f.Label8.Caption.get() != vari) f.Line1.BorderStyle = round_clamped(numeric_prefix(f.Label8.Caption.get()));
-  if (f.Label2.Caption.get() != vari) f.Line1.BorderColor = round_clamped(numeric_prefix(f.Label2.Caption.get()));
+  if (const auto tratto = valore_in_vista(f.Label8)) f.Line1.BorderStyle = *tratto;
+  if (const auto colore = valore_in_vista(f.Label2)) f.Line1.BorderColor = *colore;
 }
 
 contorno contorno_di(TipoLineaForm& f) {

@@ -40,15 +40,13 @@ constexpr std::array modi{modo{una_superficie, set_tipoSuperficie},
 constexpr std::array stili_campitura{2, 3, 4, 5, 6, 7, 0, 1};
 
 void anteprimasuperficie(TipoSuperficieForm& f) {
-  const auto numero = [](const Label& label) { return round_clamped(numeric_prefix(label.Caption.get())); };
-  const auto definito = [](const Label& label) { return label.Caption.get() != vari; };
-  if (definito(f.Label9)) {
-    const auto campitura = static_cast<std::size_t>(numero(f.Label9));
-    if (campitura < stili_campitura.size()) f.Shape1.FillStyle = stili_campitura[campitura];
+  if (const auto campitura = valore_in_vista(f.Label9)) {
+    const auto indice = static_cast<std::size_t>(*campitura);
+    if (indice < stili_campitura.size()) f.Shape1.FillStyle = stili_campitura[indice];
   }
-  if (definito(f.Label10)) f.Shape1.FillColor = numero(f.Label10);
-  if (definito(f.Label6)) f.Shape1.BorderColor = numero(f.Label6);
-  if (definito(f.Label8)) f.Shape1.BorderStyle = numero(f.Label8);
+  if (const auto colore = valore_in_vista(f.Label10)) f.Shape1.FillColor = *colore;
+  if (const auto colore = valore_in_vista(f.Label6)) f.Shape1.BorderColor = *colore;
+  if (const auto tratto = valore_in_vista(f.Label8)) f.Shape1.BorderStyle = *tratto;
 }
 
 contorno contorno_di(TipoSuperficieForm& f) {

@@ -1,5 +1,6 @@
 #include "view/pittura.h"
 
+#include <type_traits>
 #include <vector>
 
 #include "geometry/rette.h"
@@ -34,8 +35,10 @@ std::vector<vertice> in_pixel(const distipo& doc, std::span<const vertice> punti
 
 template <class Oggetto>
 contorno contorno_di(const distipo& doc, const Oggetto& o, bool proprio) {
-  const auto spessore = static_cast<float>(o.spescont * doc.vista.rapscala / divisore_spessore);
-  return {o.trattcont, spessore < 1 ? 1.0F : spessore, proprio ? o.colcont : colore_contrasto(doc)};
+  auto spessore = static_cast<float>(o.spescont * doc.vista.rapscala / divisore_spessore);
+  // An arc goes without the least width: a pen of width 0 is one pixel wide too.
+  if (!std::is_same_v<Oggetto, Arco> && spessore < 1) spessore = 1;
+  return {o.trattcont, spessore, proprio ? o.colcont : colore_contrasto(doc)};
 }
 
 template <class Oggetto>

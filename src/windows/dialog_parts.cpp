@@ -14,7 +14,8 @@ namespace trelvo {
 
 QPushButton* make_button(DesktopQt& desktop, Button& button, bool is_default) {
   auto* widget = new QPushButton;
-  widget->setAutoDefault(is_default);
+  // Enter presses the button that has the keyboard, and elsewhere the default one.
+  widget->setAutoDefault(true);
   widget->setDefault(is_default);
   bind_button(desktop, widget, button);
   return widget;

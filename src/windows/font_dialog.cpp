@@ -69,7 +69,6 @@ bool ask_font(QWidget* parent, FontDialog& dialog) {
   fonts->setCurrentFont(shown);
   const QFont opened = fonts->currentFont();
   auto* color_button = new QPushButton("C&olore...");
-  color_button->setAutoDefault(false);
   color_button->setVisible(dialog.asks_color);
   Color color = dialog.color;
   show_color_on(color_button, color);

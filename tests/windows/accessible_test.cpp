@@ -230,6 +230,24 @@ TEST_F(Accessible, EnterConfirmsTheThicknesses) {
   EXPECT_EQ(steps, 2);
 }
 
+// It presses the button that has the keyboard before the one that confirms.
+TEST_F(Accessible, EnterPressesTheButtonInHand) {
+  const auto thickness = bas.def.spessorelineadef;
+  bool left = false;
+  QTimer::singleShot(0, [&] {
+    QWidget& lines = *QApplication::activeModalWidget();
+    press(*lines.findChild<QLineEdit*>(), Qt::Key_9, "9");
+    QAbstractButton& leave = button(lines, "Annulla");
+    leave.setFocus();
+    press(leave, Qt::Key_Return, "\r");
+    left = !lines.isVisible();
+    lines.close();
+  });
+  choose("mnutipolinea");
+  EXPECT_TRUE(left);
+  EXPECT_EQ(bas.def.spessorelineadef, thickness);
+}
+
 TEST_F(Accessible, ZoomAndProperties) {
   choose("opdis", 1);
   click(2, 2);
