@@ -116,7 +116,6 @@ void bind_button(DesktopQt& desktop, QAbstractButton* widget, Button& button) {
 
 void bind_option(DesktopQt& desktop, QAbstractButton* widget, OptionButton& option) {
   bind_control(desktop, widget, option, qt(option.Caption));
-  widget->setAutoExclusive(false);  // the program groups them
   follow(widget, option.Caption, [widget, &option] { widget->setText(qt(option.Caption)); });
   follow(widget, option.Value, [widget, &option] { widget->setChecked(option.Value); });
   QObject::connect(widget, &QAbstractButton::clicked, widget, [&desktop, widget, &option] {
@@ -124,7 +123,6 @@ void bind_option(DesktopQt& desktop, QAbstractButton* widget, OptionButton& opti
       option.Value = true;
       if (option.Click) option.Click();
     });
-    widget->setChecked(option.Value);
   });
 }
 

@@ -43,8 +43,8 @@ void bind_check(DesktopQt& desktop, QCheckBox* widget, CheckBox& box, const QStr
 void bind_frame(DesktopQt& desktop, QGroupBox* widget, Frame& frame);
 void bind_scroll(DesktopQt& desktop, QScrollBar* widget, ScrollBar& bar, const QString& accessible_name);
 
-// The rows, the chosen one, and the first in view, both ways.
-void bind_list(DesktopQt& desktop, QListView* widget, ListBox& list, const QString& accessible_name);
+// A view of the rows: the chosen one and the first in view follow both ways.
+QListView* make_list(DesktopQt& desktop, ListBox& list, const QString& accessible_name);
 void bind_sample(DesktopQt& desktop, QLabel* widget, SampleLabel& sample);
 
 }  // namespace trelvo

@@ -1,5 +1,6 @@
 #include "windows/document_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -189,7 +190,21 @@ void DocumentWindow::closeEvent(QCloseEvent* event) {
 
 void DocumentWindow::key(QKeyEvent& event) {
   if (const int code = key_code(event); code != 0) desktop_.run([&] { Form_KeyDown(document_, code); });
-  if (const int code = character_code(event); code != 0) desktop_.run([&] { Form_KeyPress(document_, code); });
+  const int code = character_code(event);
+  if (code == 0) return;
+  desktop_.run([&] { Form_KeyPress(document_, code); });
+  if (code >= ' ' && !released_) type_on(event);
+}
+
+// What is typed without a look at the keyboard's place is meant for the command line.
+void DocumentWindow::type_on(QKeyEvent& event) {
+  frmMainForm& frame = desktop_.bas().frmMain;
+  TextBox& entry = frame.Text2.Enabled ? frame.Text2 : frame.Text1;
+  if (!entry.Enabled || !frame.Picture2.Visible) return;
+  desktop_.set_focus(&entry);
+  if (QWidget* widget = QApplication::focusWidget(); widget != nullptr && widget != canvas_) {
+    QApplication::sendEvent(widget, &event);
+  }
 }
 
 bool DocumentWindow::eventFilter(QObject* watched, QEvent* event) {

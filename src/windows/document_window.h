@@ -43,6 +43,7 @@ class DocumentWindow : public QMdiSubWindow {
   void show_pointer();
   void show_window_state();
   void key(QKeyEvent& event);
+  void type_on(QKeyEvent& event);
 
   DesktopQt& desktop_;
   distipo& document_;

@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -26,6 +27,11 @@ namespace {
 // Each new document stands a step further down.
 constexpr int cascade_step = 26;
 constexpr int cascade_length = 8;
+
+void put_in_cascade(QMdiSubWindow& window, int place) {
+  const int step = cascade_step * (place % cascade_length);
+  window.setGeometry(QRect(QPoint(step, step), window.sizeHint()));
+}
 
 }  // namespace
 
@@ -49,6 +55,8 @@ FrameWindow::FrameWindow(DesktopQt& desktop)
   make_toolbars();
   follow(this, form_.Caption, [this] { setWindowTitle(qt(form_.Caption)); });
   QObject::connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) { activated(window); });
+  auto* leave = new QShortcut(Qt::CTRL | Qt::Key_F4, this);
+  QObject::connect(leave, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
   form_.Unloaded = [this] {
     closing_ = true;
     close();
@@ -140,8 +148,8 @@ void FrameWindow::show_menus() {
 
 void FrameWindow::list_windows(QMenu& menu) {
   menu.clear();
-  menu.addAction("Sovrapponi", area_, &QMdiArea::cascadeSubWindows);
-  menu.addAction("Affianca", area_, &QMdiArea::tileSubWindows);
+  menu.addAction("&Sovrapponi", this, &FrameWindow::cascade);
+  menu.addAction("&Affianca", area_, &QMdiArea::tileSubWindows);
   menu.addSeparator();
   int number = 0;
   for (QMdiSubWindow* window : area_->subWindowList()) {
@@ -151,6 +159,16 @@ void FrameWindow::list_windows(QMenu& menu) {
     action->setCheckable(true);
     action->setChecked(window == area_->activeSubWindow());
     QObject::connect(action, &QAction::triggered, window, [this, window] { area_->setActiveSubWindow(window); });
+  }
+}
+
+// Each shows its title beside the one above it.
+void FrameWindow::cascade() {
+  int place = 0;
+  for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::StackingOrder)) {
+    if (window->isMinimized()) continue;
+    window->showNormal();
+    put_in_cascade(*window, place++);
   }
 }
 
@@ -167,9 +185,8 @@ Desktop::ClientSize FrameWindow::create_document(distipo& document) {
   auto* window = new DocumentWindow(desktop_, document, this);
   windows_[&document] = window;
   area_->addSubWindow(window);
-  const int step = cascade_step * (placed_++ % cascade_length);
   const bool maximised = area_->activeSubWindow() != nullptr && area_->activeSubWindow()->isMaximized();
-  window->setGeometry(QRect(QPoint(step, step), window->sizeHint()));
+  put_in_cascade(*window, placed_++);
   if (maximised) {
     window->showMaximized();
   } else {

@@ -49,6 +49,7 @@ class FrameWindow : public QMainWindow {
   void activated(QMdiSubWindow* window);
   void show_menus();
   void list_windows(QMenu& menu);
+  void cascade();
 
   DesktopQt& desktop_;
   frmMainForm& form_;

@@ -78,8 +78,7 @@ QGroupBox* preview_group(DesktopQt& desktop, Frame& frame, Canvas* canvas, const
 }
 
 QListView* vertex_list(DesktopQt& desktop, ListBox& list, const QString& name) {
-  auto* view = new QListView;
-  bind_list(desktop, view, list, name);
+  auto* view = make_list(desktop, list, name);
   view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));  // the rows are columns of figures
   view->setMinimumWidth(view->fontMetrics().averageCharWidth() * (number_width + 6));
   view->setMinimumHeight(view->fontMetrics().height() * 10);
@@ -164,8 +163,7 @@ QGroupBox* vertices_group(DesktopQt& desktop, TipoSuperficieForm& f) {
 QGroupBox* fill_group(DesktopQt& desktop, TipoSuperficieForm& f) {
   QGroupBox* group = make_group(desktop, f.Frame2);
   auto* layout = new QVBoxLayout(group);
-  auto* fills = new QListView;
-  bind_list(desktop, fills, f.List2, "Tipo Campitura");
+  auto* fills = make_list(desktop, f.List2, "Tipo Campitura");
   fills->setFixedHeight(fills->sizeHintForRow(0) * f.List2.ListCount + 2 * fills->frameWidth());
   layout->addWidget(fills);
   layout->addWidget(make_label(desktop, f.Label9));

@@ -36,9 +36,19 @@ void show_row(QListView* widget, const ListBox& list) {
   widget->viewport()->update();
 }
 
+// Only the user chooses a row: the keyboard that comes to the list brings none with it.
+class ListView : public QListView {
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+  }
+};
+
 }  // namespace
 
-void bind_list(DesktopQt& desktop, QListView* widget, ListBox& list, const QString& accessible_name) {
+QListView* make_list(DesktopQt& desktop, ListBox& list, const QString& accessible_name) {
+  auto* widget = new ListView;
   bind_control(desktop, widget, list, accessible_name);
   auto* rows = new Rows(widget, list);
   widget->setModel(rows);
@@ -56,6 +66,7 @@ void bind_list(DesktopQt& desktop, QListView* widget, ListBox& list, const QStri
                    [&desktop, &list](const QModelIndex& row) { desktop.run([&] { list.ListIndex = row.row(); }); });
   QObject::connect(widget->verticalScrollBar(), &QScrollBar::valueChanged, widget,
                    [&desktop, &list](int top) { desktop.run([&] { list.TopIndex = top; }); });
+  return widget;
 }
 
 }  // namespace trelvo

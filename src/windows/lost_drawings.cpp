@@ -41,7 +41,7 @@ LostDrawings::LostDrawings(DesktopQt& desktop, copieaperte& copies, std::vector<
   text_->setWordWrap(true);
   text_->setFixedWidth(text_width);
   auto* recover = new QPushButton("&Recupera", this);
-  auto* drop = new QPushButton("E&limina", this);
+  auto* drop = new QPushButton("Eli&mina", this);
   auto* later = new QPushButton("&Più tardi", this);
   recover->setToolTip("Apre il disegno com'era");
   drop->setToolTip("Lascia il disegno com'è nel suo file");

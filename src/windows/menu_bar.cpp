@@ -6,6 +6,7 @@
 #include "app/app.h"
 #include "windows/binding.h"
 #include "windows/desktop_qt.h"
+#include "windows/mnemonics.h"
 
 namespace trelvo {
 
@@ -15,6 +16,12 @@ namespace {
 QString title_of(const std::string& caption) {
   static const QRegularExpression blanks(" {3,}");
   return qt(caption).replace(blanks, "  ");
+}
+
+QStringList titles_of(const std::vector<MenuItem*>& items) {
+  QStringList titles;
+  for (const MenuItem* item : items) titles.append(title_of(item->Caption));
+  return with_mnemonics(titles);
 }
 
 void sync(QAction* action, const MenuItem& item) {
@@ -34,14 +41,14 @@ QKeySequence shortcut_of(int shortcut) {
   return QKeySequence(Qt::Key_F1 + (shortcut - code_f1));
 }
 
-void MenuSet::add_item(QMenu& menu, MenuItem& item) {
+void MenuSet::add_item(QMenu& menu, const QString& title, MenuItem& item) {
   if (item.Caption.get() == "-") {
     menu.addSeparator();
     return;
   }
   QAction* action = nullptr;
   if (item.items.empty()) {
-    action = menu.addAction(title_of(item.Caption));
+    action = menu.addAction(title);
     action->setShortcut(shortcut_of(item.shortcut));
     QObject::connect(action, &QAction::triggered, action, [this, alive = alive_, &item, action] {
       desktop_.run([&] { scegli(item); });
@@ -49,7 +56,7 @@ void MenuSet::add_item(QMenu& menu, MenuItem& item) {
     });
     follow(action, item.Checked, [action, &item] { sync(action, item); });
   } else {
-    QMenu* sub = menu.addMenu(title_of(item.Caption));
+    QMenu* sub = menu.addMenu(title);
     fill(*sub, item.items);
     action = sub->menuAction();
   }
@@ -58,13 +65,16 @@ void MenuSet::add_item(QMenu& menu, MenuItem& item) {
 }
 
 void MenuSet::fill(QMenu& menu, const std::vector<MenuItem*>& items) {
-  for (MenuItem* item : items) add_item(menu, *item);
+  const QStringList titles = titles_of(items);
+  for (std::size_t i = 0; i < items.size(); ++i) add_item(menu, titles[static_cast<qsizetype>(i)], *items[i]);
 }
 
 MenuSet::MenuSet(DesktopQt& desktop, QMenuBar& bar, const Form& form, std::function<void(QMenu&)> window_list)
     : desktop_(desktop), bar_(bar), window_list_(std::move(window_list)) {
-  for (MenuItem* top : form.menus) {
-    auto* menu = new QMenu(title_of(top->Caption), &bar_);
+  const QStringList titles = titles_of(form.menus);
+  for (std::size_t i = 0; i < form.menus.size(); ++i) {
+    MenuItem* top = form.menus[i];
+    auto* menu = new QMenu(titles[static_cast<qsizetype>(i)], &bar_);
     bar_.addMenu(menu);
     menus_.push_back(menu);
     fill(*menu, top->items);

@@ -28,7 +28,7 @@ class MenuSet {
 
  private:
   void fill(QMenu& menu, const std::vector<MenuItem*>& items);
-  void add_item(QMenu& menu, MenuItem& item);
+  void add_item(QMenu& menu, const QString& title, MenuItem& item);
 
   DesktopQt& desktop_;
   QMenuBar& bar_;

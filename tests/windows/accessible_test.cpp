@@ -8,6 +8,8 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
@@ -67,11 +69,17 @@ std::string unreached(const QWidget& window) {
     at = at->nextInFocusChain();
     if ((at->focusPolicy() & Qt::TabFocus) != 0) reached.insert(at);
   } while (at != &window);
+  // Of a group of options Tab reaches the chosen one.
+  const auto among_its_like = [&](const QWidget* widget) {
+    if (qobject_cast<const QRadioButton*>(widget) == nullptr) return false;
+    const auto alike = widget->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+    return std::any_of(alike.begin(), alike.end(), [&](const QWidget* other) { return reached.contains(other); });
+  };
   std::string missing;
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     const bool wanted = widget->isVisibleTo(&window) && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus;
     const bool inner = widget->objectName().startsWith("qt_") || widget->focusProxy() != nullptr;
-    if (wanted && !inner && !reached.contains(widget))
+    if (wanted && !inner && !reached.contains(widget) && !among_its_like(widget))
       missing += std::string("  ") + widget->metaObject()->className() + "\n";
   }
   return missing;
@@ -246,6 +254,57 @@ TEST_F(Accessible, EnterPressesTheButtonInHand) {
   choose("mnutipolinea");
   EXPECT_TRUE(left);
   EXPECT_EQ(bas.def.spessorelineadef, thickness);
+}
+
+// The keyboard that comes to a list chooses nothing in it.
+TEST_F(Accessible, FillsThatDifferStayUntilOneIsChosen) {
+  for (const std::int32_t fill : {7, 3}) {
+    bas.def.campituradef = fill;
+    choose("opdis", 7);
+    click(2 + fill, 2);
+    click(4 + fill, 5);
+  }
+  bool seen = false;
+  QTimer::singleShot(0, [&] {
+    QWidget& surfaces = *QApplication::activeModalWidget();
+    QApplication::processEvents();
+    auto* fills = surfaces.findChild<QListView*>();
+    fills->setFocus();
+    EXPECT_TRUE(fills->hasFocus());
+    EXPECT_EQ(bas.TipoSuperficie.List2.ListIndex, -1);
+    EXPECT_EQ(bas.TipoSuperficie.Label9.Caption.get(), "Vari");
+    press(*fills, Qt::Key_Down, {});
+    EXPECT_EQ(bas.TipoSuperficie.List2.ListIndex, 0);
+    surfaces.close();
+    seen = true;
+  });
+  choose("modifica", 9);
+  click(0, 0);
+  click(45, 19);
+  right_click();
+  EXPECT_TRUE(seen);
+}
+
+TEST_F(Accessible, ArrowsChooseAmongOptions) {
+  bool seen = false;
+  QTimer::singleShot(0, [&] {
+    QWidget& settings = *QApplication::activeModalWidget();
+    const bool grid = bas.impost.Option1.Value;
+    const auto options = settings.findChildren<QRadioButton*>();
+    const auto chosen = std::find_if(options.begin(), options.end(), [](auto* o) { return o->isChecked(); });
+    QApplication::processEvents();
+    (*chosen)->setFocus();
+    EXPECT_TRUE((*chosen)->hasFocus());
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Left}) {
+      if (bas.impost.Option1.Value == grid) press(**chosen, key, {});
+    }
+    EXPECT_NE(bas.impost.Option1.Value, grid);
+    EXPECT_NE(bas.impost.Option1.Value, bas.impost.Option2.Value);
+    settings.close();
+    seen = true;
+  });
+  choose("aiutdis", 1);
+  EXPECT_TRUE(seen);
 }
 
 TEST_F(Accessible, ZoomAndProperties) {

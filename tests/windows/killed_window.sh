@@ -85,6 +85,6 @@ expect_lines "$drawing" 3 'a broken save'
 line '16,4'
 dies TERM
 start
-keys alt+l
+keys alt+m
 leaves
 expect_lines "$drawing" 3 'changes that were given up'

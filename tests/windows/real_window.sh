@@ -29,7 +29,7 @@ point 300 250
 point 420 330
 xdotool click 3; sleep 0.2
 menu d 1
-keys Tab Tab            # to the drawing and back
+keys Tab                # to the drawing, which passes on what is typed
 xdotool type --delay 30 '4,4'; keys Return
 xdotool type --delay 30 '20,12.5'; keys Return
 keys Escape
