@@ -14,6 +14,7 @@
 #include "platform/qt/program_folder.h"
 #include "script/script.h"
 #include "windows/desktop_qt.h"
+#include "windows/plain_buttons.h"
 #include "windows/report_window.h"
 #include "windows/safety_copies.h"
 
@@ -58,6 +59,7 @@ int run_windows(int argc, char** argv, const trelvo::CommandLine& line) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName("Trelvo");
   QApplication::setDesktopFileName("trelvo");
+  QApplication::setStyle(new trelvo::PlainButtons);
   // The face speaks Italian, Qt's own dialogs included where their texts are installed.
   QTranslator texts;
   if (texts.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

@@ -17,8 +17,10 @@ struct GeststampForm : Form {
     anteprima.ScaleMode = scale_millimetres;
   }
   // The room for the sheet, and below it the dialog's other controls.
-  Property<float> ScaleWidth{*this, "ScaleWidth", 200};
-  Property<float> ScaleHeight{*this, "ScaleHeight", 150};
+  static constexpr float larghezza = 200;
+  static constexpr float altezza = 150;
+  Property<float> ScaleWidth{*this, "ScaleWidth", larghezza};
+  Property<float> ScaleHeight{*this, "ScaleHeight", altezza};
 
   PictureBox Picture2{*this, "Picture2"};
   PictureBox Picture1{*this, "Picture1"};

@@ -187,7 +187,15 @@ void copieaperte::ricopia(const distipo& doc) {
   if (prepara()) copia(doc, voci_[doc.numero]);
 }
 
+// Whoever takes the folder away takes the copies with it: they are made again.
+void copieaperte::rinnova() {
+  if (descrittore_ < 0 || stessa(descrittore_, propria_)) return;
+  ::close(std::exchange(descrittore_, -1));
+  voci_.clear();
+}
+
 void copieaperte::aggiorna(const trelvobas& bas) {
+  rinnova();
   for (const auto& finestra : bas.finestredocumenti) {
     if (!finestra) continue;
     if (da_copiare(*finestra)) {

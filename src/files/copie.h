@@ -50,6 +50,7 @@ class copieaperte {
   };
 
   bool prepara();
+  void rinnova();
   // A new copy, if the last one is not of the drawing as it stands.
   void ricopia(const distipo& doc);
   void copia(const distipo& doc, voce& v);

@@ -13,6 +13,7 @@
 #include "platform/qt/regional_qt.h"
 #include "windows/binding.h"
 #include "windows/color_dialog.h"
+#include "windows/dialog_layouts.h"
 #include "windows/file_dialogs.h"
 #include "windows/font_dialog.h"
 #include "windows/form_dialog.h"
@@ -189,6 +190,7 @@ bool DesktopQt::show_printer() {
 }
 
 void DesktopQt::show_modal(Form& form) {
+  if (form.name == "Geststamp") fit_Geststamp(form, QGuiApplication::primaryScreen()->availableSize());
   form.load();
   form.Visible = true;
   const Interlude interlude(*this);

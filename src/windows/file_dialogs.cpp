@@ -1,7 +1,8 @@
 #include "windows/file_dialogs.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include "windows/binding.h"
 
@@ -32,15 +33,12 @@ QString shown(const Filter& filter) {
 bool ask(QWidget* parent, CommonDialog& dialog, QFileDialog::AcceptMode mode) {
   static QString folder;
   const QList<Filter> filters = filters_of(dialog);
+  FileTypes types;
   QFileDialog box(parent, mode == QFileDialog::AcceptOpen ? "Apri" : "Salva con Nome");
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   box.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks
-  box.setLabelText(QFileDialog::LookIn, "Cerca in:");
-  box.setLabelText(QFileDialog::FileName, "&Nome:");
-  box.setLabelText(QFileDialog::FileType, "Tipo:");
-  box.setLabelText(QFileDialog::Accept, mode == QFileDialog::AcceptOpen ? "&Apri" : "&Salva");
-  box.setLabelText(QFileDialog::Reject, "Annulla");
+  dress_file_dialog(box, types);
   QStringList names;
   for (const Filter& filter : filters) names.append(shown(filter));
   box.setNameFilters(names);
@@ -61,6 +59,24 @@ bool ask(QWidget* parent, CommonDialog& dialog, QFileDialog::AcceptMode mode) {
 }
 
 }  // namespace
+
+QString FileTypes::type(const QFileInfo& file) const {
+  if (file.isDir()) return "Cartella";
+  return file.suffix().isEmpty() ? "File" : "File " + file.suffix().toUpper();
+}
+
+void dress_file_dialog(QFileDialog& box, FileTypes& types) {
+  box.setLabelText(QFileDialog::LookIn, "Cerca in:");
+  box.setLabelText(QFileDialog::FileName, "&Nome:");
+  box.setLabelText(QFileDialog::FileType, "Tipo:");
+  box.setLabelText(QFileDialog::Accept, box.acceptMode() == QFileDialog::AcceptOpen ? "&Apri" : "&Salva");
+  box.setLabelText(QFileDialog::Reject, "Annulla");
+  box.setIconProvider(&types);
+  // The desktop's own dialog has no such list.
+  if (auto* list = box.findChild<QTreeView*>()) {
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
+}
 
 bool ask_open_name(QWidget* parent, CommonDialog& dialog) { return ask(parent, dialog, QFileDialog::AcceptOpen); }
 

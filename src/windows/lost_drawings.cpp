@@ -1,8 +1,11 @@
 #include "windows/lost_drawings.h"
 
+#include <QDateTime>
 #include <QEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -20,9 +23,12 @@ constexpr int margin = 12;
 
 QString words(const disegnoperduto& lost) {
   const QString name = qt(lost.nome);
-  return lost.copia.empty()
-             ? QString("Il salvataggio di \"%1\" è stato interrotto: accanto c'è la copia di prima.").arg(name)
-             : QString("\"%1\" è stato chiuso senza salvare le ultime modifiche.").arg(name);
+  if (lost.copia.empty()) {
+    return QString("Il salvataggio di \"%1\" è stato interrotto: accanto c'è la copia di prima.").arg(name);
+  }
+  const QDateTime copied = QFileInfo(qt(lost.copia)).lastModified();
+  return QString("\"%1\" è stato chiuso senza salvare le ultime modifiche: ne resta la copia del %2.")
+      .arg(name, QLocale().toString(copied, QLocale::ShortFormat));
 }
 
 }  // namespace

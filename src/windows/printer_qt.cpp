@@ -1,12 +1,12 @@
 #include "windows/printer_qt.h"
 
-#include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
 #include "platform/qt/print_job_qt.h"
 #include "platform/runtime_error.h"
 #include "windows/binding.h"
+#include "windows/file_dialogs.h"
 
 namespace trelvo {
 
@@ -49,10 +49,15 @@ std::unique_ptr<PrintJob> PrinterQt::make_job() { return to_file() ? file_job() 
 
 std::unique_ptr<PrintJob> PrinterQt::file_job() {
   // Asked each time, or the sheet printed before would be lost.
+  FileTypes types;
   QFileDialog box(parent_(), "Stampa su file PDF", QString(), "Documento PDF (*.pdf)");
   box.setAcceptMode(QFileDialog::AcceptSave);
+  dress_file_dialog(box, types);
   box.setDefaultSuffix("pdf");
-  if (!printer_.outputFileName().isEmpty()) box.selectFile(printer_.outputFileName());
+  // Beside the drawing, by its name.
+  const QFileInfo drawing(qt(title_()));
+  if (drawing.isAbsolute()) box.setDirectory(drawing.absolutePath());
+  box.selectFile(drawing.completeBaseName() + ".pdf");
   if (box.exec() != QDialog::Accepted) return nullptr;
   const QString name = box.selectedFiles().first();
   return pdf_job(paper(), file_dots, name.toStdString(), title_());

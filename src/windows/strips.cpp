@@ -103,24 +103,26 @@ QWidget* make_command_line(DesktopQt& desktop, frmMainForm& form) {
 }
 
 QWidget* make_status_strip(DesktopQt& desktop, frmMainForm& form) {
-  constexpr int scale_width = 18;    // characters
-  constexpr int reading_width = 16;  // to be read whole
+  constexpr int scale_width = 17;    // figures
+  constexpr int reading_width = 21;  // to be read whole
   auto* readings = new QHBoxLayout;
   auto* scale = new QLabel;
   bind_label(desktop, scale, form.Label3);
   scale->setToolTip("Scala del disegno");
   scale->setAccessibleDescription("Scala del disegno");
-  const int em = scale->fontMetrics().averageCharWidth();
-  scale->setMinimumWidth(em * scale_width);
+  const int figure = scale->fontMetrics().horizontalAdvance('0');
+  scale->setMinimumWidth(figure * scale_width);
   readings->addWidget(scale);
-  int wide = em * scale_width;
+  int wide = figure * scale_width;
   int number = 3;
   for (TextBox* reading : {&form.Text3, &form.Text4, &form.Text5, &form.Text6, &form.Text7}) {
     auto* entry = new TextEntry(desktop, *reading);
     entry->setFocusPolicy(Qt::NoFocus);
     bind_text(desktop, entry, *reading, QString("Lettura %1").arg(number++ - 2));
+    // What does not fit is there to be read all the same.
+    follow(entry, reading->Text, [entry, reading] { entry->setToolTip(qt(reading->Text)); });
     readings->addWidget(entry, 1);
-    wide += em * reading_width;
+    wide += figure * reading_width;
   }
   auto* switches = new QHBoxLayout;
   for (Label* label : {&form.Label8, &form.Label9, &form.Label10, &form.Label11}) {

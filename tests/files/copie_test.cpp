@@ -85,6 +85,18 @@ TEST(Copie, FollowWhatIsNotSaved) {
   EXPECT_EQ(p.files(), 0U);
 }
 
+TEST(Copie, AreMadeAgainWhereTheirFolderWent) {
+  CopiedProgram p;
+  fs::create_directory(p.folder / "p");
+  copieaperte copies(p.folder / "p");
+  p.open(1, "Disegno _ 1").dis.collLinee.aggiungi({});
+  copies.aggiorna(p.bas);
+  fs::remove_all(p.folder / "p");
+  copies.aggiorna(p.bas);
+  EXPECT_EQ(p.files(), 2U);
+  EXPECT_EQ(copieaperte(killed(p)).perduti().size(), 1U);
+}
+
 TEST(Copie, OfABrokenSaveAreFoundAndForgotten) {
   CopiedProgram p;
   fs::create_directory(p.folder / "p");
