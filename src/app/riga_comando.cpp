@@ -55,8 +55,11 @@ void invio_Text2(distipo& doc) {
   }
   clic_scritto(doc, fx2(doc.bas), fy2(doc.bas));
   if (f.Text2.Text.get().find(',') == std::string::npos) return;
-  f.Text1.Text = coppia(fx2(doc.bas), fy2(doc.bas));
-  spegni_Text1(doc);
+  // A measure stands in the first box, to be read.
+  if (!f.Text1.Locked) {
+    f.Text1.Text = coppia(fx2(doc.bas), fy2(doc.bas));
+    spegni_Text1(doc);
+  }
   f.Text2.Text = "";
 }
 

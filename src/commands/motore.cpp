@@ -2,6 +2,7 @@
 
 #include "commands/comando.h"
 #include "commands/deselezione.h"
+#include "commands/modifica.h"
 #include "commands/prompt.h"
 #include "model/tavolozza.h"
 #include "platform/numbers.h"
@@ -116,6 +117,17 @@ void eseguicomando(distipo& doc, int& n) {
   doc.bas.desktop.MousePointer = pointer_default;
 }
 
+namespace {
+
+// "Stira" has marks and a mode of selection of its own. True if something was selected.
+bool lascia_selezione(distipo& doc, const std::string& comando) {
+  const bool stira = comando == "Stira";
+  if (stira) doc.cmd.modoselez = modo_scelto(doc);
+  return deseleziona(doc.dis, stira);
+}
+
+}  // namespace
+
 void annullacomando(distipo& doc, int n) {
   doc.surface.set_AutoRedraw(true);
   statocomandi& cmd = doc.cmd;
@@ -125,7 +137,7 @@ void annullacomando(distipo& doc, int n) {
   if (!sospeso(doc)) {
     cmd.ntrovati = 0;
     cmd.passo = 0;
-    ridipingi = deseleziona(doc.dis, c != nullptr && c->nome == "Stira");
+    ridipingi = lascia_selezione(doc, c == nullptr ? "" : c->nome);
     if (c != nullptr && c->tipo != genere::areastampa) cmd.ultimocomando = c->nome;
   }
   for (const int livello : {n, cmd.livello}) {
@@ -245,9 +257,9 @@ void ripristinatrasparente(distipo& doc) {
 
 void abbandona_sospeso(distipo& doc) {
   if (!sospeso(doc)) return;
-  const bool stira = doc.cmd.comandosospeso.tipo() == "Stira";
+  const std::string comando = doc.cmd.comandosospeso.tipo();
   azzera_sospeso(doc);
-  if (deseleziona(doc.dis, stira)) redraw(doc);
+  if (lascia_selezione(doc, comando)) redraw(doc);
 }
 
 void con_comando_da_parte(distipo& doc, const std::function<void()>& azione) {

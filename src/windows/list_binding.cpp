@@ -40,8 +40,10 @@ void show_row(QListView* widget, const ListBox& list) {
 class ListView : public QListView {
  protected:
   void focusInEvent(QFocusEvent* event) override {
-    QAbstractScrollArea::focusInEvent(event);
-    viewport()->update();
+    const bool none = !currentIndex().isValid();
+    const QSignalBlocker quiet(none ? selectionModel() : nullptr);
+    QListView::focusInEvent(event);
+    if (none) selectionModel()->clearCurrentIndex();
   }
 };
 
