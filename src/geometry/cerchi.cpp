@@ -89,17 +89,20 @@ void detinters_cerchio_cerchio(double Xa, double Ya, double Ra, double Xb, doubl
 
 void cerchio_per_tre_punti(double p1x, double p1y, double p2x, double p2y, double p3x, double p3y, double& Xc,
                            double& Yc, double& R) {
-  const double S1 = -(p1x * p1x + p1y * p1y);
-  const double S2 = -(p2x * p2x + p2y * p2y);
-  const double S3 = -(p3x * p3x + p3y * p3y);
-  const double D = (p2y - p3y) * p1x - (p2x - p3x) * p1y + (p2x * p3y - p3x * p2y);
+  // Seen from the first point: the squares of far coordinates would leave no digits for the arc.
+  const double x2 = p2x - p1x;
+  const double y2 = p2y - p1y;
+  const double x3 = p3x - p1x;
+  const double y3 = p3y - p1y;
+  const double D = x2 * y3 - x3 * y2;
   if (D == 0) return;
-  const double Dx = (p2y - p3y) * S1 - (S2 - S3) * p1y + (S2 * p3y - S3 * p2y);
-  const double Dy = (S2 - S3) * p1x - (p2x - p3x) * S1 + (S3 * p2x - S2 * p3x);
-  const double Dz = (S3 * p2y - S2 * p3y) * p1x - (S3 * p2x - S2 * p3x) * p1y + (p2x * p3y - p3x * p2y) * S1;
-  Xc = -(Dx / D) / 2;
-  Yc = -(Dy / D) / 2;
-  R = std::sqrt((Dy / D) * (Dy / D) / 4 + (Dx / D) * (Dx / D) / 4 - Dz / D);
+  const double S2 = x2 * x2 + y2 * y2;
+  const double S3 = x3 * x3 + y3 * y3;
+  const double x = (y3 * S2 - y2 * S3) / D / 2;
+  const double y = (x2 * S3 - x3 * S2) / D / 2;
+  Xc = p1x + x;
+  Yc = p1y + y;
+  R = std::sqrt(x * x + y * y);
 }
 
 }  // namespace trelvo

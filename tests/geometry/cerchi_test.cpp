@@ -119,12 +119,30 @@ TEST(Cerchi, ThroughThreePoints) {
   EXPECT_DOUBLE_EQ(R, 5);
 }
 
+// A small circle keeps its digits wherever it lies.
+TEST(Cerchi, FarPointsLoseNothing) {
+  for (const double far : {1e3, 1e6, 1e9}) {
+    double Xc = 0, Yc = 0, R = 0;
+    cerchio_per_tre_punti(far + 5, far, far, far + 5, far - 5, far, Xc, Yc, R);
+    EXPECT_EQ(Xc, far);
+    EXPECT_EQ(Yc, far);
+    EXPECT_EQ(R, 5);
+  }
+}
+
 TEST(Cerchi, CollinearPointsLeaveTheOutputs) {
-  double Xc = -1, Yc = -2, R = -3;
-  cerchio_per_tre_punti(0, 0, 1, 1, 2, 2, Xc, Yc, R);
-  EXPECT_EQ(Xc, -1);
-  EXPECT_EQ(Yc, -2);
-  EXPECT_EQ(R, -3);
+  struct Row {
+    double p1x, p1y, p2x, p2y, p3x, p3y;
+  };
+  const Row rows[] = {{0, 0, 1, 1, 2, 2},
+                      {11.67647058823529, -1.794117647058826, 15.05, -0.7, 11.67647058823529, -1.794117647058826}};
+  for (const Row& r : rows) {
+    double Xc = -1, Yc = -2, R = -3;
+    cerchio_per_tre_punti(r.p1x, r.p1y, r.p2x, r.p2y, r.p3x, r.p3y, Xc, Yc, R);
+    EXPECT_EQ(Xc, -1);
+    EXPECT_EQ(Yc, -2);
+    EXPECT_EQ(R, -3);
+  }
 }
 
 }  // namespace
