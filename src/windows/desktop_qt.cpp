@@ -13,8 +13,8 @@
 #include "platform/qt/regional_qt.h"
 #include "windows/binding.h"
 #include "windows/color_dialog.h"
-#include "windows/dialog_layouts.h"
 #include "windows/file_dialogs.h"
+#include "windows/fit_to_screen.h"
 #include "windows/font_dialog.h"
 #include "windows/form_dialog.h"
 #include "windows/frame_window.h"
@@ -190,7 +190,7 @@ bool DesktopQt::show_printer() {
 }
 
 void DesktopQt::show_modal(Form& form) {
-  if (form.name == "Geststamp") fit_Geststamp(form, QGuiApplication::primaryScreen()->availableSize());
+  fit_to_screen(form, QGuiApplication::primaryScreen()->availableSize());
   form.load();
   form.Visible = true;
   const Interlude interlude(*this);

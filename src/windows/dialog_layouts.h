@@ -1,8 +1,6 @@
 // Layouts of the modal forms.
 #pragma once
 
-#include <QSize>
-
 #include "platform/controls.h"
 
 namespace trelvo {
@@ -12,9 +10,6 @@ class FormDialog;
 
 // By the form's name.
 void lay_out_dialog(DesktopQt& desktop, FormDialog& dialog, Form& form);
-
-// Before the form is loaded: its sheet takes no more room than a screen of this size has, in pixels.
-void fit_Geststamp(Form& form, const QSize& screen);
 
 void lay_out_TipoLinea(DesktopQt& desktop, FormDialog& dialog, Form& form);
 void lay_out_TipoSuperficie(DesktopQt& desktop, FormDialog& dialog, Form& form);

@@ -57,18 +57,6 @@ void add_box(DesktopQt& desktop, QHBoxLayout* row, Label& label, TextBox& box, c
 
 }  // namespace
 
-void fit_Geststamp(Form& form, const QSize& screen) {
-  constexpr int beside = 40;   // the dialog's margins and frame
-  constexpr int around = 170;  // the title, and what stands below the sheet
-  constexpr int least = 200;   // a sheet that can still be looked at
-  auto& f = dynamic_cast<GeststampForm&>(form);
-  const auto room = [least](float wanted, int there) {
-    return std::min(wanted, static_cast<float>(std::max(there, least) / pixels_per_millimetre));
-  };
-  f.ScaleWidth = room(GeststampForm::larghezza, screen.width() - beside);
-  f.ScaleHeight = room(GeststampForm::altezza, screen.height() - around);
-}
-
 void lay_out_Geststamp(DesktopQt& desktop, FormDialog& dialog, Form& form) {
   auto& f = dynamic_cast<GeststampForm&>(form);
   auto* layout = new QVBoxLayout(&dialog);
