@@ -2,6 +2,14 @@
 
 namespace trelvo {
 
+namespace {
+
+bool nei_limiti(double x, double y, double x1, double y1, double x2, double y2) {
+  return ((x1 <= x && x <= x2) || (x2 <= x && x <= x1)) && ((y1 <= y && y <= y2) || (y2 <= y && y <= y1));
+}
+
+}  // namespace
+
 // Slopes are dx / dy, so that a vertical line is an ordinary case and a horizontal one the singular one.
 void detintersrette(double x1, double y1, double x2, double y2, double x3, double y3, double x4, double y4, double& X,
                     double& Y, std::int16_t& flag) {
@@ -40,7 +48,8 @@ void detinters_segmenti(double x1, double y1, double x2, double y2, double x3, d
   std::int16_t trovata = 0;
   detintersrette(x1, y1, x2, y2, x3, y3, x4, y4, x, y, trovata);
   if (trovata != 1) return;
-  if (!detPinsegmento(x, y, x1, y1, x2, y2) || !detPinsegmento(x, y, x3, y3, x4, y4)) return;
+  // The point lies on both lines: what rounding makes of it on a long one is no reason to lose it.
+  if (!nei_limiti(x, y, x1, y1, x2, y2) || !nei_limiti(x, y, x3, y3, x4, y4)) return;
   X = x;
   Y = y;
   flag = 1;

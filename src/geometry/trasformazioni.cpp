@@ -45,9 +45,12 @@ double variazione_ang_testo_ruotato(double distanza, double radianti) {
 }
 
 specchio::specchio(double x1, double y1, double x2, double y2) : x1_(x1), y1_(y1) {
-  const double f = angolo_asse(x2 - x1, y2 - y1);
-  coseno_ = std::cos(f);
-  seno_ = std::sin(f);
+  const double dx = x2 - x1;
+  const double dy = y2 - y1;
+  const double f = angolo_asse(dx, dy);
+  // An upright or level axis leaves the other coordinate as it is, to the last digit.
+  coseno_ = dx == 0 ? 0 : dy == 0 ? std::copysign(1, dx) : std::cos(f);
+  seno_ = dx == 0 ? std::copysign(1, f) : dy == 0 ? 0 : std::sin(f);
 }
 
 void specchio::rifletti(double& x, double& y) const {

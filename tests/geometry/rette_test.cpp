@@ -51,6 +51,15 @@ TEST(Rette, Intersections) {
   }
 }
 
+// Rounding of a far point times the length of a line is no distance from it.
+TEST(Rette, LongSlopingSegmentsMeetTheSidesOfAFarWindow) {
+  const Esito e = segmenti({1499975, 4999985, 1499975, 5000015, 1921950.4838558135, 5023149.219190617,
+                            1046684.2932552756, 4975112.674661189});
+  EXPECT_EQ(e.flag, 1);
+  EXPECT_EQ(e.X, 1499975);
+  EXPECT_NEAR(e.Y, 4999990.271274831, 1e-6);
+}
+
 TEST(Rette, FarIntersectionsAreNoneButAreWritten) {
   Esito e = rette({0, 0, 1e11, 1, 0, 5e-1, 1, 5e-1});
   EXPECT_EQ(e.flag, 1);

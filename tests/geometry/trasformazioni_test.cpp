@@ -52,6 +52,19 @@ TEST(Trasformazioni, MirrorFollowsThePlane) {
   }
 }
 
+TEST(Trasformazioni, MirrorAboutAnUprightOrLevelAxisIsExact) {
+  for (const double end : {20.0, -20.0}) {
+    double x = 6, y = 11.1;
+    specchio(13, 1, 13, end).rifletti(x, y);
+    EXPECT_EQ(x, 20);
+    EXPECT_EQ(y, 11.1);
+    x = 6.3;
+    specchio(1, 13, end, 13).rifletti(x, y);
+    EXPECT_EQ(x, 6.3);
+    EXPECT_DOUBLE_EQ(y, 14.9);
+  }
+}
+
 TEST(Trasformazioni, TextAngleTurnsTheOtherWay) {
   struct Row {
     double c, s, delta;
